@@ -1,0 +1,17 @@
+// One whole conversion, from the input files to the output file.
+#pragma once
+
+#include <QStringList>
+
+struct RunReporter;
+
+/// What the user asked for.
+struct ConversionRequest {
+    QStringList inputFiles; ///< paths, in the user's order
+    QString outputFile;     ///< path; an existing file is overwritten
+    QString settingName;    ///< a convert setting of the settings file
+};
+
+/// Converts, synchronously. Returns whether the output file was written whole; every failure has
+/// then been reported once through `reporter`.
+bool runConversion(const ConversionRequest &request, RunReporter &reporter);

@@ -1,0 +1,37 @@
+// The writer of the program's CSV dialect. A field is quoted only when it holds a line break; one
+// with a comma or a quote is written as it is. The encoding is that of the system's locale, without
+// a byte-order mark.
+#pragma once
+
+#include <QStringList>
+#include <QStringView>
+#include <string>
+
+class QIODevice;
+class QTextCodec;
+
+class CsvWriter
+{
+public:
+    /// `device` is open for writing, in text mode: every line feed becomes the platform's line end.
+    explicit CsvWriter(QIODevice &device);
+    Q_DISABLE_COPY(CsvWriter)
+
+    /// The headings are never quoted.
+    void writeHeading(const QStringList &names);
+    void addField(QStringView field);
+    void endRow();
+
+    /// Writes what is still held back. Returns whether everything has reached the device.
+    bool flush();
+
+private:
+    void append(QStringView text);
+    void writeBuffer();
+
+    QIODevice &m_device;
+    const QTextCodec *m_codec;
+    std::u16string m_buffer;
+    bool m_rowIsEmpty = true;
+    bool m_failed = false;
+};

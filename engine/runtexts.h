@@ -1,0 +1,27 @@
+// Every text that a conversion run shows. Some are misspelt; users and their manuals know them so.
+#pragma once
+
+#include <QString>
+
+namespace RunTexts {
+
+QString checkingFields();
+QString loadingSettings();
+QString processingInput();
+QString generatingOutput();
+QString startConverting();
+QString deletingDuplicates();
+QString succeeded();
+
+QString inputRequired();
+QString outputRequired();
+QString settingRequired();
+QString noInputForms();
+QString cannotOpenInput();      ///< %1: the system's reason
+QString inputDoesNotMatch();
+QString wrongNumberOfInputs();
+QString noProperInput();
+QString cannotOpenOutput();     ///< %1: the system's reason
+QString cannotWriteOutput();    ///< %1: the system's reason
+
+} // namespace RunTexts

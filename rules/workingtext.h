@@ -1,0 +1,45 @@
+// A value on its way through joining, rules and merging. Most rules only cut, so the value stays a
+// view into the input table until something has to build a new text; the buffers in which texts are
+// built are used again for the next value.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+class WorkingText
+{
+public:
+    WorkingText() = default;
+    Q_DISABLE_COPY(WorkingText)
+
+    /// The value as it stands. Valid until the next change of this object, or until the text given
+    /// to set() goes away.
+    QStringView view() const { return m_view; }
+    QString toString() const { return m_view.toString(); }
+
+    /// Makes the value a view of somebody else's text, which must outlive it.
+    void set(QStringView text) { m_view = text; }
+    void clear() { m_view = QStringView(); }
+
+    /// Narrows the value to a part of itself.
+    void narrow(QStringView part) { m_view = part; }
+
+    /// Adds a text behind the value. `text` must not be a part of this value.
+    void append(QStringView text);
+
+    /// Replaces the value by what `build` appends to the empty text it is given; the old value stays
+    /// readable meanwhile.
+    template <typename Build> void rebuild(Build build)
+    {
+        QString &next = m_buffers[1 - m_current];
+        next.resize(0);
+        build(next);
+        m_current = 1 - m_current;
+        m_view = next;
+    }
+
+private:
+    QString m_buffers[2];
+    int m_current = 0;
+    QStringView m_view;
+};
