@@ -48,8 +48,8 @@ bool loadTable(const ConversionRequest &request, Table &table, RunReporter &repo
 void writeRows(OutputRows &rows, CsvWriter &writer, StepProgress &progress)
 {
     for (int row = 0; row < rows.count(); ++row) {
-        for (int item = 0; item < rows.itemCount(); ++item)
-            writer.addField(rows.value(row, item));
+        for (const WorkingText &value : rows.buildRow(row))
+            writer.addField(value.view());
         writer.endRow();
         progress.advance();
     }

@@ -12,7 +12,7 @@
 
 namespace {
 
-const int blockSize = 256 * 1024;
+const int blockSize = 64 * 1024;
 const int allRows = std::numeric_limits<int>::max();
 const std::string_view lineFeedAndMark("\n\xEF\xBB\xBF");
 
@@ -33,52 +33,65 @@ bool decodesWholeBlocks(const QTextCodec &codec)
 class LineSource
 {
 public:
+    struct Lines {
+        const char *bytes;
+        int size;
+    };
+
     explicit LineSource(QIODevice &device) : m_device(device)
     {
         // Text mode is the line end translation done here.
         m_device.setTextModeEnabled(false);
         m_device.seek(0);
-        m_buffer = m_device.read(blockSize);
+        readMore();
     }
 
-    const QByteArray &beginning() const { return m_buffer; }
+    // The first bytes of the device; to be asked before the first lines are taken.
+    QByteArray beginning() const { return m_buffer.left(qMin(m_end, 4)); }
 
-    // One line, or (`wholeBlock`) as many as are at hand; empty at the end of the device.
-    QByteArray next(bool wholeBlock)
+    // One line, or (`wholeBlock`) as many as are at hand; none at the end of the device. Valid until
+    // the next call.
+    Lines next(bool wholeBlock)
     {
         int end = lineEnd(m_begin, wholeBlock);
         while (end < 0) {
-            const int searched = m_buffer.size() - m_begin;
+            const int searched = m_end - m_begin;
             if (!readMore())
                 break;
             end = lineEnd(searched, wholeBlock);
         }
         if (end < 0)
-            end = m_buffer.size();
+            end = m_end;
         if (wholeBlock)
             end = endBeforeMark(end);
-        QByteArray lines = m_buffer.mid(m_begin, end - m_begin);
+        char *bytes = m_buffer.data() + m_begin;
+        const int size = translateLineEnds(bytes, end - m_begin);
         m_begin = end;
-        translateLineEnds(lines);
-        return lines;
+        return {bytes, size};
     }
 
 private:
     // Behind the first line feed, or (`last`) the last one, that is not before `from`; -1 without one.
     int lineEnd(int from, bool last) const
     {
-        const int found = last ? m_buffer.lastIndexOf('\n') : m_buffer.indexOf('\n', from);
-        return found >= from ? found + 1 : -1;
+        const std::string_view bytes(m_buffer.constData(), size_t(m_end));
+        const size_t found = last ? bytes.rfind('\n') : bytes.find('\n', size_t(from));
+        return found != bytes.npos && int(found) >= from ? int(found) + 1 : -1;
     }
 
+    // Adds to the bytes that are not taken yet; false at the end of the device.
     bool readMore()
     {
-        m_buffer.remove(0, m_begin);
-        m_begin = 0;
+        const int kept = m_end - m_begin;
+        std::memmove(m_buffer.data(), m_buffer.constData() + m_begin, size_t(kept));
         // Grows with a line that does not end, so that a huge line is not copied again and again.
-        const QByteArray more = m_device.read(qMax(blockSize, m_buffer.size()));
-        m_buffer.append(more);
-        return !more.isEmpty();
+        const int wanted = qMax(blockSize, kept);
+        if (m_buffer.size() < kept + wanted)
+            m_buffer.resize(kept + wanted);
+        const qint64 count = m_device.read(m_buffer.data() + kept, wanted);
+        m_begin = 0;
+        m_end = kept + int(qMax<qint64>(0, count));
+        return count > 0;
     }
 
     // A line that begins with a mark begins a block, where the decoder drops the mark.
@@ -89,24 +102,30 @@ private:
         return found == block.npos ? end : m_begin + int(found) + 1;
     }
 
-    static void translateLineEnds(QByteArray &lines)
+    // Only a carriage return directly before a line feed goes. Returns the new size.
+    static int translateLineEnds(char *bytes, int size)
     {
-        if (!lines.contains('\r'))
-            return;
-        char *out = lines.data();
-        const char *end = lines.constData() + lines.size();
-        char *write = out;
-        for (const char *read = out; read < end; ++read) {
-            const bool endsLine = *read == '\r' && read + 1 < end && read[1] == '\n';
-            if (!endsLine)
-                *write++ = *read;
+        char *write = static_cast<char *>(std::memchr(bytes, '\r', size_t(size)));
+        if (!write)
+            return size;
+        const char *end = bytes + size;
+        const char *read = write;
+        while (read < end) {
+            // `read` is at a carriage return.
+            const bool endsLine = read + 1 < end && read[1] == '\n';
+            const char *from = endsLine ? read + 1 : read;
+            const void *next = std::memchr(read + 1, '\r', size_t(end - read - 1));
+            read = next ? static_cast<const char *>(next) : end;
+            std::memmove(write, from, size_t(read - from));
+            write += read - from;
         }
-        lines.truncate(int(write - out));
+        return int(write - bytes);
     }
 
     QIODevice &m_device;
-    QByteArray m_buffer;
+    QByteArray m_buffer; // its bytes [m_begin, m_end) are not taken yet
     int m_begin = 0;
+    int m_end = 0;
 };
 
 // Collects lines into records and records into rows, in place, in the text of the rows.
@@ -121,11 +140,9 @@ public:
     void addLines(const QString &lines)
     {
         std::u16string &text = m_rows.text();
-        if (!m_pending) // what was dropped or has been cut off is not needed any more
-            text.resize(m_recordEnd);
-        size_t position = text.size();
         if (!m_pending)
-            m_recordBegin = position;
+            text.resize(m_rowsEnd); // what was dropped or cut off last is not needed any more
+        size_t position = text.size();
         text.append(reinterpret_cast<const char16_t *>(lines.utf16()), size_t(lines.size()));
         // A line of some encodings can decode to nothing and is a line all the same.
         do {
@@ -135,93 +152,105 @@ public:
 
 private:
     // Returns where the next line begins.
-    size_t addLine(size_t position)
+    size_t addLine(size_t begin)
     {
         if (!m_pending) {
-            m_recordBegin = position;
-            m_commas.clear();
+            m_recordBegin = begin;
+            m_commaCount = 0;
+            m_hasQuote = false;
         }
         const char16_t *text = m_rows.text().data();
-        const size_t size = m_rows.text().size();
-        while (position < size) {
-            const char16_t unit = text[position];
-            // Both characters looked for are below every letter and digit.
-            if (unit <= u',') {
-                if (unit == u',')
-                    m_commas.push_back(quint32(position));
-                else if (unit == u'\n')
-                    break;
-            }
-            ++position;
-        }
-        if (position < size)
-            ++position; // the line feed belongs to the line
-
-        const int fieldCount = int(m_commas.size()) + 1;
+        const char16_t *textEnd = text + m_rows.text().size();
+        const UnitScan::Line line = UnitScan::scanLine(text + begin, textEnd);
+        m_commaCount += line.commas;
+        m_hasQuote |= line.hasQuote;
+        // The line feed belongs to the line.
+        const size_t end = size_t(line.end - text) + (line.end < textEnd ? 1 : 0);
         if (m_rows.rowCount() == 0)
-            addHeadingRow(position);
-        else if (fieldCount == m_rows.fieldCount(0))
-            addRecord(position, false);
+            addHeadingRow(end);
+        else if (m_commaCount == m_headingCommaCount)
+            addRecord(end);
         else
-            m_pending = fieldCount < m_rows.fieldCount(0);
-        return position;
+            m_pending = m_commaCount < m_headingCommaCount;
+        return end;
     }
 
     // The heading line is trimmed as a whole; that takes no comma away.
     void addHeadingRow(size_t end)
     {
-        const char16_t *text = m_rows.text().data();
-        const char16_t *lineBegin = text + m_recordBegin;
-        const char16_t *lineEnd = text + end;
-        trim(lineBegin, lineEnd);
-        m_recordBegin = size_t(lineBegin - text);
-        addRecord(size_t(lineEnd - text), true);
+        const size_t begin = skipSpaces(m_recordBegin, end);
+        m_headingCommaCount = m_commaCount;
+        addRow(begin, skipSpacesBack(begin, end));
     }
 
-    // Cuts [m_recordBegin, end) into fields: trims the last one, takes the quotes away and closes the
-    // gaps, so that exactly one unit stands between two fields.
-    void addRecord(size_t end, bool isHeading)
+    // Of a data record the last field is trimmed; the others keep their spaces.
+    void addRecord(size_t end)
     {
-        char16_t *text = &m_rows.text()[0];
-        m_begins.clear();
-        size_t read = m_recordBegin;
-        size_t write = m_recordBegin;
-        for (size_t i = 0; i <= m_commas.size(); ++i) {
-            const bool isLast = i == m_commas.size();
-            const char16_t *fieldBegin = text + read;
-            const char16_t *fieldEnd = text + (isLast ? end : size_t(m_commas[i]));
-            if (isLast && !isHeading)
-                trim(fieldBegin, fieldEnd);
-            if (!isLast)
-                read = m_commas[i] + 1;
-            const QStringView field =
-                unquoteField(QStringView(fieldBegin, qsizetype(fieldEnd - fieldBegin)));
-            m_begins.push_back(quint32(write));
-            if (reinterpret_cast<const char16_t *>(field.data()) != text + write)
-                std::memmove(text + write, field.data(), size_t(field.size()) * sizeof(char16_t));
-            write += size_t(field.size()) + 1;
+        std::u16string &text = m_rows.text();
+        const size_t trimmedEnd = skipSpacesBack(m_recordBegin, end);
+        const size_t lastComma = m_commaCount > 0 ? text.rfind(u',', end - 1) : std::u16string::npos;
+        const size_t lastBegin = lastComma == std::u16string::npos ? m_recordBegin : lastComma + 1;
+        const size_t trimmedBegin = skipSpaces(lastBegin, end);
+        if (trimmedBegin == lastBegin) {
+            addRow(m_recordBegin, qMax(lastBegin, trimmedEnd));
+            return;
         }
-        m_begins.push_back(quint32(write));
-        m_rows.appendRow(m_begins.data(), int(m_commas.size()) + 1);
-        m_recordEnd = qMin(write, m_rows.text().size());
+        const size_t length = trimmedEnd > trimmedBegin ? trimmedEnd - trimmedBegin : 0;
+        std::memmove(&text[lastBegin], &text[trimmedBegin], length * sizeof(char16_t));
+        addRow(m_recordBegin, lastBegin + length);
+    }
+
+    void addRow(size_t begin, size_t end)
+    {
+        if (m_hasQuote)
+            end = removeQuotes(begin, end);
+        m_rows.appendRow(begin, end);
+        m_rowsEnd = end;
         m_pending = false;
     }
 
-    static void trim(const char16_t *&begin, const char16_t *&end)
+    // Takes the quotes of every field of a row away and closes the gaps. Returns the new end.
+    size_t removeQuotes(size_t begin, size_t end)
     {
-        while (begin < end && QChar::isSpace(*begin))
+        char16_t *text = &m_rows.text()[0];
+        char16_t *write = text + begin;
+        const char16_t *read = write;
+        const char16_t *rowEnd = text + end;
+        while (true) {
+            const char16_t *fieldEnd = UnitScan::find(read, rowEnd, u',');
+            const QStringView field = unquoteField(QStringView(read, qsizetype(fieldEnd - read)));
+            std::memmove(write, field.data(), size_t(field.size()) * sizeof(char16_t));
+            write += field.size();
+            if (fieldEnd == rowEnd)
+                return size_t(write - text);
+            *write++ = u',';
+            read = fieldEnd + 1;
+        }
+    }
+
+    size_t skipSpaces(size_t begin, size_t end) const
+    {
+        const std::u16string &text = m_rows.text();
+        while (begin < end && QChar::isSpace(text[begin]))
             ++begin;
-        while (end > begin && QChar::isSpace(end[-1]))
+        return begin;
+    }
+    size_t skipSpacesBack(size_t begin, size_t end) const
+    {
+        const std::u16string &text = m_rows.text();
+        while (end > begin && QChar::isSpace(text[end - 1]))
             --end;
+        return end;
     }
 
     TextRows &m_rows;
     const int m_maximumRows;
-    std::vector<quint32> m_commas; // of the record being collected
-    std::vector<quint32> m_begins;
+    qint64 m_headingCommaCount = 0;
+    qint64 m_commaCount = 0;  // of the record being collected
+    bool m_hasQuote = false;
     size_t m_recordBegin = 0;
-    size_t m_recordEnd = 0; // behind the last record that became a row
-    bool m_pending = false; // a record lacks fields
+    size_t m_rowsEnd = 0;     // behind the last row
+    bool m_pending = false;   // a record lacks fields
 };
 
 } // namespace
@@ -235,19 +264,20 @@ TextRows readCsv(QIODevice &device, int maximumRows)
 {
     LineSource source(device);
     const QTextCodec *codec =
-        QTextCodec::codecForUtfText(source.beginning().left(4), systemLocaleCodec());
+        QTextCodec::codecForUtfText(source.beginning(), systemLocaleCodec());
     const bool wholeBlocks = decodesWholeBlocks(*codec);
 
     TextRows rows;
     RecordParser parser(rows, maximumRows);
-    QByteArray lines = source.next(wholeBlocks);
+    LineSource::Lines lines = source.next(wholeBlocks);
     if (maximumRows == allRows)
-        rows.text().reserve(size_t(device.size())); // no encoding has more units than bytes
-    parser.addLines(codec->toUnicode(lines));
-    if (maximumRows == allRows && !lines.isEmpty())
-        rows.expectMoreRows(double(device.size()) / lines.size());
-    while (!parser.isFull() && !(lines = source.next(wholeBlocks)).isEmpty())
-        parser.addLines(codec->toUnicode(lines));
+        rows.text().reserve(size_t(device.size())); // no encoding gives more units than bytes
+    parser.addLines(codec->toUnicode(lines.bytes, lines.size));
+    if (maximumRows == allRows && lines.size > 0)
+        rows.reserveRows(1.1 * rows.rowCount() * double(device.size()) / lines.size);
+    while (!parser.isFull() && (lines = source.next(wholeBlocks)).size > 0)
+        parser.addLines(codec->toUnicode(lines.bytes, lines.size));
+    rows.finish();
     return rows;
 }
 

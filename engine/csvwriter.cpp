@@ -2,6 +2,7 @@
 
 #include "engine/csvfield.h"
 #include "engine/systemcodec.h"
+#include "rules/unitscan.h"
 
 #include <QIODevice>
 #include <QTextCodec>
@@ -9,7 +10,7 @@
 namespace {
 
 // In code units. Encoding and writing cost much less in large pieces.
-const size_t blockUnits = 128 * 1024;
+const size_t blockUnits = 32 * 1024;
 
 } // namespace
 
@@ -20,39 +21,56 @@ CsvWriter::CsvWriter(QIODevice &device) : m_device(device), m_codec(systemLocale
 
 void CsvWriter::writeHeading(const QStringList &names)
 {
-    append(names.join(QLatin1Char(',')));
-    endRow();
+    const QString line = names.join(QLatin1Char(',')) + QLatin1Char('\n');
+    m_buffer.append(reinterpret_cast<const char16_t *>(line.utf16()), size_t(line.size()));
+    m_rowBegin = m_buffer.size();
 }
 
 void CsvWriter::addField(QStringView field)
 {
-    if (!m_rowIsEmpty)
+    if (!m_fieldEnds.empty())
         m_buffer.push_back(u',');
-    m_rowIsEmpty = false;
-    if (field.indexOf(QLatin1Char('\n')) < 0)
-        append(field);
-    else
-        append(quoteField(field));
+    m_buffer.append(reinterpret_cast<const char16_t *>(field.data()), size_t(field.size()));
+    m_fieldEnds.push_back(m_buffer.size());
 }
 
 // A block always ends with a row, so that no surrogate pair is torn.
 void CsvWriter::endRow()
 {
+    const char16_t *begin = m_buffer.data() + m_rowBegin;
+    const char16_t *end = m_buffer.data() + m_buffer.size();
+    if (UnitScan::find(begin, end, u'\n') != end)
+        quoteRow();
     m_buffer.push_back(u'\n');
-    m_rowIsEmpty = true;
+    m_fieldEnds.clear();
     if (m_buffer.size() >= blockUnits)
         writeBuffer();
+    m_rowBegin = m_buffer.size();
+}
+
+// Line breaks are rare, so a row is looked at as a whole first; here at least one field has one.
+void CsvWriter::quoteRow()
+{
+    const std::u16string row = m_buffer.substr(m_rowBegin);
+    const size_t rowBegin = m_rowBegin;
+    m_buffer.resize(rowBegin);
+    size_t begin = 0;
+    for (const size_t fieldEnd : m_fieldEnds) {
+        const size_t end = fieldEnd - rowBegin;
+        const QStringView field(row.data() + begin, qsizetype(end - begin));
+        if (begin > 0)
+            m_buffer.push_back(u',');
+        const bool hasLineBreak = field.indexOf(QLatin1Char('\n')) >= 0;
+        const QString text = hasLineBreak ? quoteField(field) : field.toString();
+        m_buffer.append(reinterpret_cast<const char16_t *>(text.utf16()), size_t(text.size()));
+        begin = end + 1;
+    }
 }
 
 bool CsvWriter::flush()
 {
     writeBuffer();
     return !m_failed;
-}
-
-void CsvWriter::append(QStringView text)
-{
-    m_buffer.append(reinterpret_cast<const char16_t *>(text.data()), size_t(text.size()));
 }
 
 void CsvWriter::writeBuffer()

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QStringView>
 #include <string>
+#include <vector>
 
 class QIODevice;
 class QTextCodec;
@@ -26,12 +27,13 @@ public:
     bool flush();
 
 private:
-    void append(QStringView text);
+    void quoteRow();
     void writeBuffer();
 
     QIODevice &m_device;
     const QTextCodec *m_codec;
     std::u16string m_buffer;
-    bool m_rowIsEmpty = true;
+    size_t m_rowBegin = 0;             // in the buffer, as are the field ends
+    std::vector<size_t> m_fieldEnds;   // of the row being written
     bool m_failed = false;
 };

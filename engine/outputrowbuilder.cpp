@@ -48,11 +48,12 @@ void OutputRowBuilder::buildValue(int item, const Table::Row &inputRow, WorkingT
     value.clear();
     if (!passes(from, inputRow))
         return;
-    bool first = true;
     for (const Source &source : from.sources) {
-        if (!first)
-            value.append(from.separator);
-        first = false;
+        if (&source == &from.sources.front()) {
+            value.set(source.value(inputRow));
+            continue;
+        }
+        value.append(from.separator);
         value.append(source.value(inputRow));
     }
     from.rules.apply(value);

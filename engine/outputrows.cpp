@@ -1,54 +1,79 @@
 #include "engine/outputrows.h"
 
+#include "engine/textkey.h"
 #include "rules/functiontext.h"
 
-#include <QHash>
+#include <algorithm>
+
+namespace {
+
+int countDistinct(const QList<OutputItem> &items)
+{
+    return int(std::count_if(items.begin(), items.end(),
+                             [](const OutputItem &item) { return item.isDistinct(); }));
+}
+
+} // namespace
 
 OutputRows::OutputRows(const Table &table, const QList<OutputItem> &items,
                        const CompanyInfo &company)
-    : m_table(table), m_builder(items, company)
+    : m_builder(items, company), m_distinctCount(countDistinct(items)), m_inputRow(table, 0),
+      m_values(size_t(items.size())), m_key(table, m_builder, m_distinctCount)
 {
-    for (const OutputItem &item : items) {
-        m_mergeItems.push_back({item.mergesTexts(), item.mergesNumbers(), item.mergeSeparator,
-                                RuleList(item.afterRules)});
-        if (item.isDistinct())
-            ++m_distinctCount;
+    for (int i = 0; i < items.size(); ++i) {
+        const OutputItem &item = items.at(i);
+        m_mergeItems.push_back(
+            {item.mergesNumbers(), item.mergeSeparator, RuleList(item.afterRules), 0});
+        if (item.mergesNumbers() || item.mergesTexts())
+            m_mergingItems.push_back(i);
     }
-    m_key = std::vector<WorkingText>(size_t(m_distinctCount));
-    m_otherKey = std::vector<WorkingText>(size_t(m_distinctCount));
-    if (m_distinctCount > 0)
-        m_groups.reserveRows(table.rowCount());
 }
 
 void OutputRows::appendNext()
 {
     ++m_appended;
-    if (m_distinctCount > 0)
-        addToGroup(quint32(m_appended));
+    if (m_distinctCount > 0) {
+        m_key.moveTo(quint32(m_appended));
+        m_groups.add(quint32(m_appended), m_key);
+    }
 }
 
 // Required: the key is the first N columns, not the N columns that are marked.
-void OutputRows::buildKey(quint32 inputRow, std::vector<WorkingText> &values) const
+const std::vector<WorkingText> &OutputRows::KeyBuilder::build(quint32 row, Key &key)
 {
-    const Table::Row row = m_table.row(int(inputRow));
-    for (int item = 0; item < m_distinctCount; ++item)
-        m_builder.buildValue(item, row, values[size_t(item)]);
+    if (key.inputRow != row) {
+        key.inputRow = row;
+        m_cursor.moveTo(int(row));
+        for (size_t item = 0; item < key.values.size(); ++item)
+            m_builder.buildValue(int(item), m_cursor, key.values[item]);
+    }
+    return key.values;
 }
 
-void OutputRows::addToGroup(quint32 inputRow)
+void OutputRows::KeyBuilder::moveTo(quint32 row)
 {
-    buildKey(inputRow, m_key);
+    // The row before is the one to be compared with first.
+    std::swap(m_current, m_other);
+    build(row, m_current);
+}
+
+int OutputRows::KeyBuilder::compareWith(quint32 row)
+{
+    const std::vector<WorkingText> &other = build(row, m_other);
+    for (size_t i = 0; i < other.size(); ++i) {
+        const int order = compareTexts(m_current.values[i].view(), other[i].view());
+        if (order != 0)
+            return order;
+    }
+    return 0;
+}
+
+uint OutputRows::KeyBuilder::hashOf(const std::vector<WorkingText> &values)
+{
     uint hash = 0;
-    for (const WorkingText &value : m_key)
-        hash = hash * 31 + qHash(value.view());
-    m_groups.add(inputRow, hash, [this](quint32 other) {
-        buildKey(other, m_otherKey);
-        for (size_t i = 0; i < m_key.size(); ++i) {
-            if (m_key[i].view() != m_otherKey[i].view())
-                return false;
-        }
-        return true;
-    });
+    for (const WorkingText &value : values)
+        hash = hash * 31 + textHash(value.view());
+    return hash;
 }
 
 void OutputRows::removeDuplicatesAndMerge()
@@ -71,54 +96,56 @@ quint32 OutputRows::nextInputRow(quint32 inputRow) const
     return m_merged ? m_groups.next(inputRow) : RowGroups::none;
 }
 
-QStringView OutputRows::value(int row, int item)
+const std::vector<WorkingText> &OutputRows::buildRow(int row)
 {
     const quint32 inputRow = firstInputRow(row);
-    m_builder.buildValue(item, m_table.row(int(inputRow)), m_value);
-    if (!m_merged)
-        return m_value.view();
-    const MergeItem &merge = m_mergeItems[size_t(item)];
-    if (nextInputRow(inputRow) != RowGroups::none) {
-        if (merge.mergesTexts)
-            mergeTexts(inputRow, item);
-        else if (merge.mergesNumbers)
-            mergeNumbers(inputRow, item);
+    m_inputRow.moveTo(int(inputRow));
+    for (int item = 0; item < itemCount(); ++item)
+        m_builder.buildValue(item, m_inputRow, m_values[size_t(item)]);
+    if (m_merged) {
+        if (nextInputRow(inputRow) != RowGroups::none)
+            foldRows(inputRow);
+        for (size_t item = 0; item < m_values.size(); ++item)
+            m_mergeItems[item].afterRules.apply(m_values[item]);
     }
-    merge.afterRules.apply(m_value);
-    return m_value.view();
+    return m_values;
 }
 
 QStringList OutputRows::row(int row)
 {
     QStringList texts;
-    for (int item = 0; item < itemCount(); ++item)
-        texts.append(value(row, item).toString());
+    for (const WorkingText &value : buildRow(row))
+        texts.append(value.toString());
     return texts;
 }
 
-// The separator stands before every folded value, also before an empty one.
-void OutputRows::mergeTexts(quint32 inputRow, int item)
+// Folds the values of all later rows of a group into m_values. A separator stands before every
+// folded text, also before an empty one; sums are 32-bit and wrap around.
+void OutputRows::foldRows(quint32 firstInputRow)
 {
-    const QString &separator = m_mergeItems[size_t(item)].separator;
-    m_value.rebuild([&](QString &merged) {
-        merged.append(m_value.view().data(), int(m_value.view().size()));
-        for (quint32 folded = nextInputRow(inputRow); folded != RowGroups::none;
-             folded = nextInputRow(folded)) {
-            m_builder.buildValue(item, m_table.row(int(folded)), m_folded);
-            merged.append(separator);
-            merged.append(m_folded.view().data(), int(m_folded.view().size()));
-        }
-    });
-}
-
-// 32-bit sums wrap around.
-void OutputRows::mergeNumbers(quint32 inputRow, int item)
-{
-    quint32 sum = quint32(toInteger(m_value.view()));
-    for (quint32 folded = nextInputRow(inputRow); folded != RowGroups::none;
-         folded = nextInputRow(folded)) {
-        m_builder.buildValue(item, m_table.row(int(folded)), m_folded);
-        sum += quint32(toInteger(m_folded.view()));
+    for (const int item : m_mergingItems) {
+        if (m_mergeItems[size_t(item)].mergesNumbers)
+            m_mergeItems[size_t(item)].sum = quint32(toInteger(m_values[size_t(item)].view()));
     }
-    m_value.rebuild([sum](QString &text) { text.append(QString::number(qint32(sum))); });
+    for (quint32 folded = nextInputRow(firstInputRow); folded != RowGroups::none;
+         folded = nextInputRow(folded)) {
+        m_inputRow.moveTo(int(folded));
+        for (const int item : m_mergingItems) {
+            MergeItem &merge = m_mergeItems[size_t(item)];
+            m_builder.buildValue(item, m_inputRow, m_folded);
+            if (merge.mergesNumbers) {
+                merge.sum += quint32(toInteger(m_folded.view()));
+            } else {
+                m_values[size_t(item)].append(merge.separator);
+                m_values[size_t(item)].append(m_folded.view());
+            }
+        }
+    }
+    for (const int item : m_mergingItems) {
+        const MergeItem &merge = m_mergeItems[size_t(item)];
+        if (!merge.mergesNumbers)
+            continue;
+        m_values[size_t(item)].rebuild(
+            [&](TextBuffer &out) { out.append(QString::number(qint32(merge.sum))); });
+    }
 }

@@ -10,7 +10,7 @@
 class OutputRows
 {
 public:
-    /// `table` must outlive this object and stay unchanged.
+    /// `table` has at least its heading row, must outlive this object and stay unchanged.
     OutputRows(const Table &table, const QList<OutputItem> &items, const CompanyInfo &company);
     Q_DISABLE_COPY(OutputRows)
 
@@ -25,8 +25,8 @@ public:
     int count() const;
     int itemCount() const { return m_builder.itemCount(); }
 
-    /// The value of one item in one row. Valid until the next call.
-    QStringView value(int row, int item);
+    /// Builds the values of one row, one for each item. Valid until the next call.
+    const std::vector<WorkingText> &buildRow(int row);
     QStringList row(int row);
 
     /// The input row (of the table) that an output row was made of, and after it, in their order, those
@@ -36,26 +36,52 @@ public:
 
 private:
     struct MergeItem {
-        bool mergesTexts;
-        bool mergesNumbers;
+        bool mergesNumbers; // otherwise texts, for an item that merges
         QString separator;
         RuleList afterRules;
+        quint32 sum; // of the row being built
     };
 
-    void buildKey(quint32 inputRow, std::vector<WorkingText> &values) const;
-    void addToGroup(quint32 inputRow);
-    void mergeTexts(quint32 inputRow, int item);
-    void mergeNumbers(quint32 inputRow, int item);
+    // The values by which rows are compared, built when they are needed; serves as a key of RowGroups.
+    class KeyBuilder
+    {
+    public:
+        KeyBuilder(const Table &table, const OutputRowBuilder &builder, int valueCount)
+            : m_builder(builder), m_cursor(table, 0), m_current(valueCount), m_other(valueCount)
+        {
+        }
+        void moveTo(quint32 row);
+        int compareWith(quint32 row);
+        uint hash() const { return hashOf(m_current.values); }
+        uint hashOf(quint32 row) { return hashOf(build(row, m_other)); }
 
-    const Table &m_table;
+    private:
+        struct Key {
+            explicit Key(int valueCount) : values(size_t(valueCount)) {}
+            quint32 inputRow = RowGroups::none;
+            std::vector<WorkingText> values;
+        };
+        const std::vector<WorkingText> &build(quint32 row, Key &key);
+        static uint hashOf(const std::vector<WorkingText> &values);
+
+        const OutputRowBuilder &m_builder;
+        Table::Row m_cursor;
+        Key m_current;
+        Key m_other;
+    };
+
+    void foldRows(quint32 firstInputRow);
+
     const OutputRowBuilder m_builder;
-    std::vector<MergeItem> m_mergeItems;
-    int m_distinctCount = 0;
+    std::vector<MergeItem> m_mergeItems; // one for each item
+    std::vector<int> m_mergingItems;     // those whose values are folded together
+    const int m_distinctCount;
     int m_appended = 0;
     bool m_merged = false;
     RowGroups m_groups;
-    WorkingText m_value;
+
+    Table::Row m_inputRow;
+    std::vector<WorkingText> m_values;
     WorkingText m_folded;
-    std::vector<WorkingText> m_key;
-    std::vector<WorkingText> m_otherKey;
+    KeyBuilder m_key;
 };

@@ -1,75 +1,109 @@
 #include "engine/table.h"
 
 #include "engine/rowgroups.h"
+#include "engine/textkey.h"
 
-#include <QHash>
 #include <algorithm>
+
+namespace {
+
+// A key to be found among those of a file.
+struct FileKey {
+    const TextRows &rows;
+    int column;
+    QStringView text;
+
+    int compareWith(quint32 row) const { return compareTexts(text, rows.field(int(row), column)); }
+    uint hash() const { return textHash(text); }
+    uint hashOf(quint32 row) const { return textHash(rows.field(int(row), column)); }
+};
+
+} // namespace
 
 quint32 Table::Part::rowCount() const
 {
     if (files.empty())
         return 0;
-    return firstRows.back() + quint32(files.back()->rowCount()) - m_skippedRows.back();
+    const File &last = files.back();
+    return last.firstRow + quint32(last.rows->rowCount()) - last.skippedRows;
 }
 
-void Table::Part::add(TextRows rows, int skippedRows)
+void Table::Part::add(TextRows rows, quint32 skippedRows)
 {
-    firstRows.push_back(rowCount());
-    m_skippedRows.push_back(quint32(qMin(skippedRows, rows.rowCount())));
-    files.push_back(std::make_shared<const TextRows>(std::move(rows)));
+    files.push_back({std::make_shared<const TextRows>(std::move(rows)), rowCount(), skippedRows});
 }
 
-// Turns a row number of the part into one of the file that holds it.
-const TextRows &Table::Part::locate(quint32 &row) const
+TextRows::Fields Table::Part::fields(quint32 row) const
 {
-    size_t file = 0;
+    auto file = files.begin();
     if (files.size() > 1) {
-        const auto next = std::upper_bound(firstRows.begin(), firstRows.end(), row);
-        file = size_t(next - firstRows.begin()) - 1;
+        file = std::upper_bound(files.begin(), files.end(), row,
+                                [](quint32 row, const File &file) { return row < file.firstRow; })
+            - 1;
     }
-    row = row - firstRows[file] + m_skippedRows[file];
-    return *files[file];
+    return file->rows->fields(int(row - file->firstRow + file->skippedRows));
 }
 
-QStringView Table::Part::field(quint32 row, int column) const
+Table::Row::Row(const Table &table, int row)
+    : m_table(table), m_row(row), m_fields(size_t(qMax(1, table.columnCount()))),
+      m_partEnds(table.m_parts.size())
 {
-    const TextRows &rows = locate(row);
-    if (droppedColumn >= 0 && column >= droppedColumn)
-        ++column;
-    return rows.field(int(row), column);
 }
 
-int Table::Part::fieldCount(quint32 row) const
+inline quint32 Table::reference(int row, size_t part) const
 {
-    const TextRows &rows = locate(row);
-    const int stored = rows.fieldCount(int(row));
-    return dropsColumnOf(stored) ? stored - 1 : stored;
+    return isPlain() ? quint32(row) : m_references[size_t(row) * m_parts.size() + part];
 }
 
-QStringView Table::Row::value(int column) const
+void Table::Row::moveTo(int row)
 {
-    if (column < 0)
-        return QStringView();
-    for (size_t i = 0; i < m_parts.size(); ++i) {
-        const quint32 row = reference(i);
-        if (row == noRow)
-            continue; // a row without a partner has its later columns further to the left
-        const int count = m_parts[i].fieldCount(row);
-        if (column < count)
-            return m_parts[i].field(row, column);
-        column -= count;
+    // The fields of the first parts are kept as long as these refer to the same file rows as before.
+    size_t same = 0;
+    if (!m_table.isPlain()) {
+        const size_t width = m_table.m_parts.size();
+        const quint32 *before = m_table.m_references.data() + size_t(m_row) * width;
+        const quint32 *now = m_table.m_references.data() + size_t(row) * width;
+        while (same < m_partCount && before[same] == now[same])
+            ++same;
     }
-    return QStringView();
+    m_row = row;
+    m_partCount = same;
+    m_fieldCount = same > 0 ? m_partEnds[same - 1] : 0;
+}
+
+// A row without a partner has the columns of later files further to the left.
+bool Table::Row::findFields(int column) const
+{
+    while (m_partCount < m_table.m_parts.size()) {
+        findFieldsOfPart(m_partCount);
+        m_partEnds[m_partCount++] = m_fieldCount;
+        if (size_t(column) < m_fieldCount)
+            return true;
+    }
+    return false;
+}
+
+void Table::Row::findFieldsOfPart(size_t part) const
+{
+    const quint32 fileRow = m_table.reference(m_row, part);
+    if (fileRow == noRow)
+        return;
+    TextRows::Fields fields = m_table.m_parts[part].fields(fileRow);
+    const int droppedColumn = m_table.m_parts[part].droppedColumn;
+    QStringView field;
+    for (int column = 0; fields.next(&field); ++column) {
+        if (column == droppedColumn)
+            continue;
+        if (m_fieldCount == m_fields.size())
+            m_fields.resize(m_fieldCount * 2);
+        m_fields[m_fieldCount++] = field;
+    }
 }
 
 int Table::Row::fieldCount() const
 {
-    int count = 0;
-    for (size_t i = 0; i < m_parts.size(); ++i) {
-        if (reference(i) != noRow)
-            count += m_parts[i].fieldCount(reference(i));
-    }
-    return count;
+    findFields(-1);
+    return int(m_fieldCount);
 }
 
 void Table::clear()
@@ -77,16 +111,27 @@ void Table::clear()
     *this = Table();
 }
 
-Table::Row Table::row(int row) const
+QStringView Table::field(int row, int column) const
 {
-    if (isPlain())
-        return Row(m_parts, nullptr, quint32(row));
-    return Row(m_parts, m_references.data() + size_t(row) * m_parts.size(), 0);
+    if (column < 0)
+        return QStringView();
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        const quint32 fileRow = reference(row, i);
+        if (fileRow == noRow)
+            continue;
+        TextRows::Fields fields = m_parts[i].fields(fileRow);
+        QStringView field;
+        for (int fileColumn = 0; fields.next(&field); ++fileColumn) {
+            if (fileColumn != m_parts[i].droppedColumn && column-- == 0)
+                return field;
+        }
+    }
+    return QStringView();
 }
 
-QStringView Table::value(int row, int column) const
+QString Table::value(int row, int column) const
 {
-    return row >= 0 && row < m_rowCount ? this->row(row).value(column) : QStringView();
+    return row >= 0 && row < m_rowCount ? field(row, column).toString() : QString();
 }
 
 QStringList Table::rowTexts(int row) const
@@ -139,6 +184,16 @@ void Table::makeReferences()
         m_references[row] = quint32(row);
 }
 
+void Table::appendReferences(std::vector<quint32> &references, int row) const
+{
+    if (isPlain()) {
+        references.push_back(quint32(row));
+        return;
+    }
+    const auto begin = m_references.begin() + ptrdiff_t(size_t(row) * m_parts.size());
+    references.insert(references.end(), begin, begin + ptrdiff_t(m_parts.size()));
+}
+
 bool Table::join(TextRows rows, int tableColumn, int fileColumn)
 {
     const int fileHeadCount = rows.rowCount() > 0 ? rows.fieldCount(0) : 0;
@@ -147,36 +202,21 @@ bool Table::join(TextRows rows, int tableColumn, int fileColumn)
 
     // The file's data rows by key, each group in the file's order.
     RowGroups partners;
-    partners.reserveRows(rows.rowCount());
-    for (int row = 1; row < rows.rowCount(); ++row) {
-        const QStringView key = rows.field(row, fileColumn);
-        partners.add(quint32(row), qHash(key),
-                     [&](quint32 other) { return rows.field(int(other), fileColumn) == key; });
-    }
+    for (quint32 row = 1; row < quint32(rows.rowCount()); ++row)
+        partners.add(row, FileKey{rows, fileColumn, rows.field(int(row), fileColumn)});
 
-    const size_t oldWidth = m_parts.size();
     std::vector<quint32> joined;
-    joined.reserve((oldWidth + 1) * size_t(qMax(m_rowCount, rows.rowCount())));
-    const auto appendJoined = [&](int row, quint32 partner) {
-        if (isPlain())
-            joined.push_back(quint32(row));
-        else
-            joined.insert(joined.end(), m_references.begin() + ptrdiff_t(size_t(row) * oldWidth),
-                          m_references.begin() + ptrdiff_t(size_t(row + 1) * oldWidth));
-        joined.push_back(partner);
-    };
-    appendJoined(0, 0); // the headings
+    joined.reserve((m_parts.size() + 1) * size_t(qMax(m_rowCount, rows.rowCount())));
+    appendReferences(joined, 0);
+    joined.push_back(0); // the headings
     for (int row = 1; row < m_rowCount; ++row) {
-        const QStringView key = this->row(row).value(tableColumn);
-        const quint32 group = partners.find(
-            qHash(key), [&](quint32 other) { return rows.field(int(other), fileColumn) == key; });
-        if (group == RowGroups::none) {
-            appendJoined(row, noRow);
-            continue;
-        }
-        for (quint32 partner = partners.first(group); partner != RowGroups::none;
-             partner = partners.next(partner))
-            appendJoined(row, partner);
+        const quint32 group = partners.find(FileKey{rows, fileColumn, field(row, tableColumn)});
+        quint32 partner = group == RowGroups::none ? noRow : partners.first(group);
+        do {
+            appendReferences(joined, row);
+            joined.push_back(partner);
+            partner = partner == noRow ? RowGroups::none : partners.next(partner);
+        } while (partner != RowGroups::none);
     }
 
     m_parts.emplace_back();

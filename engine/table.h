@@ -12,25 +12,35 @@ class Table
     struct Part;
 
 public:
-    /// One row of the table, resolved for reading. Valid as long as the table lives unchanged.
+    /// A cursor on one row. Fields are looked up as far as they are asked for, and kept when the next
+    /// row repeats them (as joined rows do). Valid as long as the table lives unchanged.
     class Row
     {
     public:
+        Row(const Table &table, int row);
+
+        /// `row` must be a row of the table.
+        void moveTo(int row);
         /// Empty for a column that the row does not have.
-        QStringView value(int column) const;
+        QStringView value(int column) const
+        {
+            if (size_t(column) < m_fieldCount || findFields(column))
+                return m_fields[size_t(column)];
+            return QStringView();
+        }
         int fieldCount() const;
 
     private:
-        friend class Table;
-        Row(const std::vector<Part> &parts, const quint32 *references, quint32 only)
-            : m_parts(parts), m_references(references), m_only(only)
-        {
-        }
-        quint32 reference(size_t part) const { return m_references ? m_references[part] : m_only; }
+        bool findFields(int column) const;
+        void findFieldsOfPart(size_t part) const;
 
-        const std::vector<Part> &m_parts;
-        const quint32 *m_references; // one for each part; null while there is one part
-        quint32 m_only;              // the row of that part
+        const Table &m_table;
+        int m_row;
+        // What has been found so far: the fields of the first m_partCount parts.
+        mutable std::vector<QStringView> m_fields;
+        mutable size_t m_fieldCount = 0;
+        mutable std::vector<size_t> m_partEnds; // the number of fields when each part was through
+        mutable size_t m_partCount = 0;
     };
 
     void clear();
@@ -41,9 +51,9 @@ public:
     /// The length of the heading row.
     int columnCount() const { return m_columnCount; }
 
-    Row row(int row) const;
+    Row row(int row) const { return Row(*this, row); }
     /// Empty for a row or a column that is not there.
-    QStringView value(int row, int column) const;
+    QString value(int row, int column) const;
     QStringList rowTexts(int row) const;
 
     /// Replaces everything; row 0 is the heading row.
@@ -66,27 +76,24 @@ private:
 
     // What one file, or several files of the same form, adds to a row.
     struct Part {
-        // The rows of all files in one numbering; file i begins with number firstRows[i].
-        std::vector<std::shared_ptr<const TextRows>> files;
-        std::vector<quint32> firstRows;
+        struct File {
+            std::shared_ptr<const TextRows> rows;
+            quint32 firstRow;    // its number among the rows of all files
+            quint32 skippedRows; // the heading row of the files behind the first
+        };
+        std::vector<File> files;
         int droppedColumn = -1; // the key column, which the row has already
 
         quint32 rowCount() const;
-        void add(TextRows rows, int skippedRows);
-        QStringView field(quint32 row, int column) const;
-        int fieldCount(quint32 row) const;
-        bool dropsColumnOf(int storedFields) const
-        {
-            return droppedColumn >= 0 && droppedColumn < storedFields;
-        }
-
-    private:
-        const TextRows &locate(quint32 &row) const;
-        std::vector<quint32> m_skippedRows; // heading rows of the files behind the first
+        void add(TextRows rows, quint32 skippedRows);
+        TextRows::Fields fields(quint32 row) const;
     };
 
     bool isPlain() const { return m_references.empty(); }
+    quint32 reference(int row, size_t part) const;
+    QStringView field(int row, int column) const;
     void makeReferences();
+    void appendReferences(std::vector<quint32> &references, int row) const;
 
     std::vector<Part> m_parts;
     // For each row one reference to each part; empty while the table is just the rows of one part.

@@ -1,7 +1,9 @@
-// Rows of texts in one block of memory: all texts behind one another, and the offset of each. An
-// order export is a million short texts; one string object for each would cost twenty times as much
-// time and space.
+// Rows of texts in one block of memory: the rows behind one another, the fields of a row with a
+// separator between them. An order export is a million short texts; one string object for each would
+// cost twenty times as much time and space. Fields are found when a row is read.
 #pragma once
+
+#include "rules/unitscan.h"
 
 #include <QList>
 #include <QStringList>
@@ -15,54 +17,74 @@ public:
     /// The most code units that one block can hold.
     static constexpr qint64 maximumUnits = 0xFFFFFFF0;
 
+    /// Walks over the fields of one row.
+    class Fields
+    {
+    public:
+        Fields() = default;
+        /// Takes the next field; false behind the last one.
+        bool next(QStringView *field);
+
+    private:
+        friend class TextRows;
+        Fields(const char16_t *position, const char16_t *end, char16_t separator)
+            : m_position(position), m_end(end), m_separator(separator)
+        {
+        }
+
+        const char16_t *m_position = nullptr; // null behind the last field
+        const char16_t *m_end = nullptr;
+        char16_t m_separator = u',';
+    };
+
+    /// No rows; text read from a file, its fields separated by commas, is added later.
     TextRows() = default;
+    /// The rows of a list, whatever their texts hold.
     explicit TextRows(const QList<QStringList> &rows);
 
-    int rowCount() const { return m_rowCount; }
+    int rowCount() const { return int(m_rows.size()); }
+    /// Views are valid as long as this object lives unchanged.
+    Fields fields(int row) const;
     int fieldCount(int row) const;
-    /// Empty where the row has no such field. Valid as long as this object lives unchanged.
+    /// Empty where the row has no such field.
     QStringView field(int row, int column) const;
     QStringList row(int row) const;
 
-    void appendRow(const QStringList &fields);
-    /// Keeps the first rows only.
-    void truncate(int rowCount);
-
-    /// For the reader, which fills the text first and cuts it into rows in place.
+    /// For the reader, which fills the text first and then says which parts of it are rows, each with
+    /// at least one field. When the text is complete, finish() ends it.
     std::u16string &text() { return m_text; }
-    /// A row whose `count` fields lie in text(): field i begins at begins[i] and ends one unit before
-    /// begins[i + 1] (there are count + 1 entries).
-    void appendRow(const quint32 *begins, int count);
-    /// Sets memory aside for `factor` times the rows that are there now, so that it need not be moved
-    /// while it grows. Memory that is never used costs nothing.
-    void expectMoreRows(double factor);
+    void appendRow(size_t begin, size_t end) { m_rows.push_back({quint32(begin), quint32(end)}); }
+    void finish() { m_text.append(UnitScan::padding, u'\0'); }
+    /// Sets memory aside for this many rows. Memory that is never used costs nothing.
+    void reserveRows(double count);
 
 private:
-    size_t firstBegin(int row) const
-    {
-        return m_rowBegins.empty() ? size_t(row) * size_t(m_width + 1) : m_rowBegins[size_t(row)];
-    }
-    void noteRaggedRow();
+    // A row that has no field at all, not even an empty one, ends before it begins.
+    struct Span {
+        quint32 begin;
+        quint32 end;
+        bool hasFields() const { return end >= begin; }
+    };
 
     std::u16string m_text;
-    std::vector<quint32> m_begins;    // each row: its fields' offsets, and the end of the last + 1
-    std::vector<size_t> m_rowBegins;  // index into m_begins; empty while all rows are equally long
-    int m_width = 0;                  // fields of each row, while they are equally long
-    int m_rowCount = 0;
+    std::vector<Span> m_rows;
+    char16_t m_separator = u',';
 };
 
-inline int TextRows::fieldCount(int row) const
+inline bool TextRows::Fields::next(QStringView *field)
 {
-    if (m_rowBegins.empty())
-        return m_width;
-    const size_t next = row + 1 < m_rowCount ? m_rowBegins[size_t(row) + 1] : m_begins.size();
-    return int(next - m_rowBegins[size_t(row)]) - 1;
+    if (!m_position)
+        return false;
+    const char16_t *fieldEnd = UnitScan::findPadded(m_position, m_end, m_separator);
+    *field = QStringView(m_position, qsizetype(fieldEnd - m_position));
+    m_position = fieldEnd == m_end ? nullptr : fieldEnd + 1;
+    return true;
 }
 
-inline QStringView TextRows::field(int row, int column) const
+inline TextRows::Fields TextRows::fields(int row) const
 {
-    if (column < 0 || column >= fieldCount(row))
-        return QStringView();
-    const quint32 *begin = m_begins.data() + firstBegin(row) + column;
-    return QStringView(m_text.data() + begin[0], qsizetype(begin[1] - begin[0]) - 1);
+    const Span &span = m_rows[size_t(row)];
+    if (!span.hasFields())
+        return Fields();
+    return Fields(m_text.data() + span.begin, m_text.data() + span.end, m_separator);
 }

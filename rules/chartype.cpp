@@ -8,16 +8,6 @@ namespace {
 
 using Converter = QString (*)(const QString &units);
 
-const struct {
-    const char *kind;
-    Converter convert;
-} converters[] = {
-    {"fullWidth", toFullWidth},
-    {"halfWidth", toHalfWidth},
-    {"hirakana", toHiragana},
-    {"katakana", toKatakana},
-};
-
 void appendBytes(QString &units, quint16 code)
 {
     if (code > 0xFF)
@@ -25,7 +15,7 @@ void appendBytes(QString &units, quint16 code)
     units.append(QChar(code & 0xFF));
 }
 
-void appendDecoded(QString &text, const QString &units)
+void appendDecoded(TextBuffer &text, const QString &units)
 {
     for (int i = 0; i < units.size(); ++i) {
         const uint unit = units.at(i).unicode();
@@ -38,7 +28,7 @@ void appendDecoded(QString &text, const QString &units)
 
 // Converts run by run: a character that the code page cannot hold ends a run and is copied, so its
 // code unit is never taken for a byte.
-void convertKinds(Converter convert, QStringView text, QString &out)
+void convertRuns(Converter convert, QStringView text, TextBuffer &out)
 {
     QString run;
     const auto flush = [&] {
@@ -58,23 +48,62 @@ void convertKinds(Converter convert, QStringView text, QString &out)
     flush();
 }
 
-} // namespace
+// Scripts without letter case that make up most of an order: everything from the CJK symbols to the
+// last ideograph, and the Hangul syllables. Only the plain ASCII letters beside them change.
+bool hasOnlyPlainCase(QStringView text)
+{
+    bool isPlain = true;
+    for (const QChar character : text) {
+        const ushort unit = character.unicode();
+        isPlain &= unit < 0x80 || ushort(unit - 0x2E80) < 0xA000 - 0x2E80
+            || ushort(unit - 0xAC00) < 0xD7A4 - 0xAC00;
+    }
+    return isPlain;
+}
 
-void applyCharType(const QString &kind, WorkingText &value)
+// The library's case mapping, without its cost where the mapping is plain.
+void changeCase(bool toUpper, WorkingText &value)
 {
     const QStringView text = value.view();
-    if (kind == QLatin1String("lowerCase")) {
-        value.rebuild([&](QString &out) { out.append(text.toString().toLower()); });
+    if (!hasOnlyPlainCase(text)) {
+        const QString whole = text.toString();
+        value.rebuild(
+            [&](TextBuffer &out) { out.append(toUpper ? whole.toUpper() : whole.toLower()); });
         return;
     }
-    if (kind == QLatin1String("upperCase")) {
-        value.rebuild([&](QString &out) { out.append(text.toString().toUpper()); });
-        return;
+    const ushort first = toUpper ? 'a' : 'A';
+    value.rebuild([&](TextBuffer &out) {
+        out.append(text);
+        for (char16_t &unit : out)
+            unit = uint(unit) - first < 26 ? unit ^ 0x20 : unit;
+    });
+}
+
+template <Converter convert> void convertKinds(WorkingText &value)
+{
+    const QStringView text = value.view();
+    value.rebuild([text](TextBuffer &out) { convertRuns(convert, text, out); });
+}
+
+const struct {
+    const char *kind;
+    CharTypeConversion conversion;
+} conversions[] = {
+    {"lowerCase", [](WorkingText &value) { changeCase(false, value); }},
+    {"upperCase", [](WorkingText &value) { changeCase(true, value); }},
+    {"fullWidth", convertKinds<toFullWidth>},
+    {"halfWidth", convertKinds<toHalfWidth>},
+    {"hirakana", convertKinds<toHiragana>},
+    {"katakana", convertKinds<toKatakana>},
+};
+
+} // namespace
+
+CharTypeConversion charTypeConversion(const QString &kind)
+{
+    for (const auto &entry : conversions) {
+        if (kind == QLatin1String(entry.kind))
+            return entry.conversion;
     }
-    for (const auto &entry : converters) {
-        if (kind == QLatin1String(entry.kind)) {
-            value.rebuild([&](QString &out) { convertKinds(entry.convert, text, out); });
-            return;
-        }
-    }
+    return nullptr;
 }

@@ -5,7 +5,10 @@
 
 class WorkingText;
 
-/// Converts the value to "lowerCase", "upperCase", "fullWidth", "halfWidth", "hirakana" (hiragana,
-/// spelt so in stored settings) or "katakana"; any other kind leaves it as it is. Characters outside
-/// code page 932 pass unchanged.
-void applyCharType(const QString &kind, WorkingText &value);
+/// Converts a value; chosen once by the name of the kind.
+using CharTypeConversion = void (*)(WorkingText &value);
+
+/// The conversion to "lowerCase", "upperCase", "fullWidth", "halfWidth", "hirakana" (hiragana, spelt
+/// so in stored settings) or "katakana"; null for any other kind. Characters outside code page 932
+/// pass unchanged.
+CharTypeConversion charTypeConversion(const QString &kind);

@@ -1,6 +1,7 @@
 #include "rules/condition.h"
 
 #include "rules/functiontext.h"
+#include "rules/unitscan.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ bool endsWith(QStringView text, QStringView end)
 
 bool contains(QStringView text, QStringView part)
 {
-    return part.isEmpty() || text.indexOf(part) >= 0;
+    return part.isEmpty() || UnitScan::indexOf(text, part, 0) >= 0;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "rules/rule.h"
 
-#include "rules/chartype.h"
 #include "rules/functiontext.h"
+#include "rules/unitscan.h"
 #include "rules/workingtext.h"
 
 struct Rule::Keyword {
@@ -19,15 +19,6 @@ const Rule::Keyword Rule::keywords[] = {
     {"trim", Kind::Trim},           {"simplified", Kind::Simplified},
 };
 
-namespace {
-
-void append(QString &text, QStringView part)
-{
-    text.append(part.data(), int(part.size()));
-}
-
-} // namespace
-
 Rule::Rule(const QString &rule) : m_number(functionIntArg(rule)), m_argument(functionArgs(rule))
 {
     const QString name = functionName(rule);
@@ -39,6 +30,8 @@ Rule::Rule(const QString &rule) : m_number(functionIntArg(rule)), m_argument(fun
     }
     if (m_kind == Kind::Find)
         readFind();
+    else if (m_kind == Kind::CharType)
+        m_charType = charTypeConversion(m_argument);
 }
 
 // The argument is split at every comma, so neither the search text nor the replacement can hold one.
@@ -94,9 +87,9 @@ void Rule::apply(WorkingText &value) const
         applyNewLine(value);
         return;
     case Kind::Prepend:
-        value.rebuild([&](QString &out) {
+        value.rebuild([&](TextBuffer &out) {
             out.append(m_argument);
-            ::append(out, text);
+            out.append(text);
         });
         return;
     case Kind::Append:
@@ -106,13 +99,14 @@ void Rule::apply(WorkingText &value) const
         applyFind(value);
         return;
     case Kind::CharType:
-        applyCharType(m_argument, value);
+        if (m_charType)
+            m_charType(value);
         return;
     case Kind::Trim:
         value.narrow(text.trimmed());
         return;
     case Kind::Simplified:
-        value.rebuild([&](QString &out) { out.append(text.toString().simplified()); });
+        value.rebuild([&](TextBuffer &out) { out.append(text.toString().simplified()); });
         return;
     }
 }
@@ -125,14 +119,14 @@ void Rule::applyBreakLine(WorkingText &value) const
     const qint64 last = text.size() - 1;
     if (m_number <= 0 || m_number >= last)
         return;
-    value.rebuild([&](QString &out) {
+    value.rebuild([&](TextBuffer &out) {
         qint64 position = 0;
         for (qint64 mark = m_number; mark < last; mark += m_number) {
-            ::append(out, text.mid(position, m_number));
+            out.append(text.mid(position, m_number));
             out.append(QLatin1Char('\n'));
             position = mark;
         }
-        ::append(out, text.mid(position));
+        out.append(text.mid(position));
     });
 }
 
@@ -144,7 +138,7 @@ void Rule::applyNewLine(WorkingText &value) const
     if (m_argument == QLatin1String("LF")) {
         if (text.indexOf(carriageReturn) < 0)
             return;
-        value.rebuild([&](QString &out) {
+        value.rebuild([&](TextBuffer &out) {
             for (int i = 0; i < text.size(); ++i) {
                 const bool beginsPair = text.at(i) == carriageReturn && i + 1 < text.size()
                     && text.at(i + 1) == lineFeed;
@@ -156,7 +150,7 @@ void Rule::applyNewLine(WorkingText &value) const
         // A pair that is already there becomes CR CR LF, as it always has.
         if (text.indexOf(lineFeed) < 0)
             return;
-        value.rebuild([&](QString &out) {
+        value.rebuild([&](TextBuffer &out) {
             for (const QChar c : text) {
                 if (c == lineFeed)
                     out.append(carriageReturn);
@@ -166,7 +160,7 @@ void Rule::applyNewLine(WorkingText &value) const
     } else if (m_argument == QLatin1String("REMOVE")) {
         if (text.indexOf(lineFeed) < 0 && text.indexOf(carriageReturn) < 0)
             return;
-        value.rebuild([&](QString &out) {
+        value.rebuild([&](TextBuffer &out) {
             for (const QChar c : text) {
                 if (c != lineFeed && c != carriageReturn)
                     out.append(c);
@@ -245,24 +239,35 @@ void Rule::replaceMatch(WorkingText &value, const QString &replacement) const
     const QString &search = m_findCondition.searchText();
     switch (m_findCondition.test()) {
     case StringCondition::StartsWith:
-        value.rebuild([&](QString &out) {
+        value.rebuild([&](TextBuffer &out) {
             out.append(replacement);
-            ::append(out, text.mid(search.size()));
+            out.append(text.mid(search.size()));
         });
         return;
     case StringCondition::EndsWith:
-        value.rebuild([&](QString &out) {
-            ::append(out, text.left(text.size() - search.size()));
+        value.rebuild([&](TextBuffer &out) {
+            out.append(text.left(text.size() - search.size()));
             out.append(replacement);
         });
         return;
     default:
-        value.rebuild([&](QString &out) {
-            ::append(out, text);
-            out.replace(search, replacement);
-        });
+        break;
+    }
+    if (search.isEmpty()) { // the library's idea of replacing nothing
+        value.rebuild(
+            [&](TextBuffer &out) { out.append(text.toString().replace(search, replacement)); });
         return;
     }
+    value.rebuild([&](TextBuffer &out) {
+        qsizetype position = 0;
+        qsizetype found;
+        while ((found = UnitScan::indexOf(text, search, position)) >= 0) {
+            out.append(text.mid(position, found - position));
+            out.append(replacement);
+            position = found + search.size();
+        }
+        out.append(text.mid(position));
+    });
 }
 
 RuleList::RuleList(const QStringList &rules)

@@ -3,6 +3,7 @@
 // understood leaves the value as it is.
 #pragma once
 
+#include "rules/chartype.h"
 #include "rules/condition.h"
 
 #include <QString>
@@ -51,6 +52,7 @@ private:
     Kind m_kind = Kind::Nothing;
     int m_number = 0;   // of a length rule
     QString m_argument; // what stands in the brackets
+    CharTypeConversion m_charType = nullptr;
     StringCondition m_findCondition;
     FindScope m_findScope = FindScope::Nothing;
     FindAction m_findAction = FindAction::Nothing;

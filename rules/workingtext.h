@@ -5,6 +5,25 @@
 
 #include <QString>
 #include <QStringView>
+#include <string>
+
+/// Text under construction.
+class TextBuffer : private std::u16string
+{
+public:
+    using std::u16string::clear;
+    using std::u16string::size;
+
+    QStringView view() const { return QStringView(data(), qsizetype(size())); }
+    void append(QStringView text)
+    {
+        std::u16string::append(reinterpret_cast<const char16_t *>(text.data()),
+                               size_t(text.size()));
+    }
+    void append(QChar character) { push_back(character.unicode()); }
+    char16_t *begin() { return data(); }
+    char16_t *end() { return data() + size(); }
+};
 
 class WorkingText
 {
@@ -24,22 +43,36 @@ public:
     /// Narrows the value to a part of itself.
     void narrow(QStringView part) { m_view = part; }
 
-    /// Adds a text behind the value. `text` must not be a part of this value.
-    void append(QStringView text);
+    /// Adds a copy of a text behind the value. `text` must not be a part of this value.
+    void append(QStringView text)
+    {
+        TextBuffer &buffer = m_buffers[m_current];
+        const bool isWholeBuffer = m_view.data() == buffer.view().data()
+            && m_view.size() == qsizetype(buffer.size());
+        if (isWholeBuffer) {
+            buffer.append(text);
+            m_view = buffer.view();
+        } else {
+            rebuild([this, text](TextBuffer &out) {
+                out.append(m_view);
+                out.append(text);
+            });
+        }
+    }
 
     /// Replaces the value by what `build` appends to the empty text it is given; the old value stays
     /// readable meanwhile.
     template <typename Build> void rebuild(Build build)
     {
-        QString &next = m_buffers[1 - m_current];
-        next.resize(0);
+        TextBuffer &next = m_buffers[1 - m_current];
+        next.clear();
         build(next);
         m_current = 1 - m_current;
-        m_view = next;
+        m_view = next.view();
     }
 
 private:
-    QString m_buffers[2];
+    TextBuffer m_buffers[2];
     int m_current = 0;
     QStringView m_view;
 };
