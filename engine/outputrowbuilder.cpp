@@ -29,6 +29,22 @@ OutputRowBuilder::OutputRowBuilder(const QList<OutputItem> &items, const Company
     }
 }
 
+int OutputRowBuilder::columnLimit(int itemCount) const
+{
+    int limit = 0;
+    const auto reads = [&limit](const Source &source) {
+        if (source.isInput && source.column < INT_MAX)
+            limit = qMax(limit, source.column + 1);
+    };
+    for (int i = 0; i < itemCount; ++i) {
+        for (const Source &source : m_items[size_t(i)].sources)
+            reads(source);
+        for (const TestedSource &tested : m_items[size_t(i)].tested)
+            reads(tested.source);
+    }
+    return limit;
+}
+
 bool OutputRowBuilder::passes(const Item &item, const Table::Row &inputRow)
 {
     if (!item.isConditional)

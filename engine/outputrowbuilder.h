@@ -18,6 +18,9 @@ public:
 
     int itemCount() const { return int(m_items.size()); }
 
+    /// The input columns that the first `itemCount` items read lie before this one.
+    int columnLimit(int itemCount) const;
+
     /// The value of one item. It may be a view into the table.
     void buildValue(int item, const Table::Row &inputRow, WorkingText &value) const;
 

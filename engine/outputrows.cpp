@@ -17,7 +17,8 @@ int countDistinct(const QList<OutputItem> &items)
 
 OutputRows::OutputRows(const Table &table, const QList<OutputItem> &items,
                        const CompanyInfo &company)
-    : m_builder(items, company), m_distinctCount(countDistinct(items)), m_inputRow(table, 0),
+    : m_builder(items, company), m_distinctCount(countDistinct(items)),
+      m_inputRow(table, 0, m_builder.columnLimit(m_builder.itemCount())),
       m_values(size_t(items.size())), m_key(table, m_builder, m_distinctCount)
 {
     for (int i = 0; i < items.size(); ++i) {

@@ -47,7 +47,8 @@ private:
     {
     public:
         KeyBuilder(const Table &table, const OutputRowBuilder &builder, int valueCount)
-            : m_builder(builder), m_cursor(table, 0), m_current(valueCount), m_other(valueCount)
+            : m_builder(builder), m_cursor(table, 0, builder.columnLimit(valueCount)),
+              m_current(valueCount), m_other(valueCount)
         {
         }
         void moveTo(quint32 row);

@@ -44,9 +44,9 @@ TextRows::Fields Table::Part::fields(quint32 row) const
     return file->rows->fields(int(row - file->firstRow + file->skippedRows));
 }
 
-Table::Row::Row(const Table &table, int row)
-    : m_table(table), m_row(row), m_fields(size_t(qMax(1, table.columnCount()))),
-      m_partEnds(table.m_parts.size())
+Table::Row::Row(const Table &table, int row, int columnLimit)
+    : m_table(table), m_row(row), m_columnLimit(size_t(columnLimit)),
+      m_fields(size_t(qMax(1, table.columnCount()))), m_partEnds(table.m_parts.size())
 {
 }
 
@@ -74,7 +74,7 @@ void Table::Row::moveTo(int row)
 // A row without a partner has the columns of later files further to the left.
 bool Table::Row::findFields(int column) const
 {
-    while (m_partCount < m_table.m_parts.size()) {
+    while (m_partCount < m_table.m_parts.size() && m_fieldCount < m_columnLimit) {
         findFieldsOfPart(m_partCount);
         m_partEnds[m_partCount++] = m_fieldCount;
         if (size_t(column) < m_fieldCount)
@@ -91,7 +91,7 @@ void Table::Row::findFieldsOfPart(size_t part) const
     TextRows::Fields fields = m_table.m_parts[part].fields(fileRow);
     const int droppedColumn = m_table.m_parts[part].droppedColumn;
     QStringView field;
-    for (int column = 0; fields.next(&field); ++column) {
+    for (int column = 0; m_fieldCount < m_columnLimit && fields.next(&field); ++column) {
         if (column == droppedColumn)
             continue;
         if (m_fieldCount == m_fields.size())

@@ -5,6 +5,7 @@
 
 #include "engine/textrows.h"
 
+#include <climits>
 #include <memory>
 
 class Table
@@ -17,11 +18,12 @@ public:
     class Row
     {
     public:
-        Row(const Table &table, int row);
+        /// `columnLimit`: no column from this one on will be asked for, so none is looked up.
+        Row(const Table &table, int row, int columnLimit = INT_MAX);
 
         /// `row` must be a row of the table.
         void moveTo(int row);
-        /// Empty for a column that the row does not have.
+        /// Empty for a column that the row does not have, or beyond the limit.
         QStringView value(int column) const
         {
             if (size_t(column) < m_fieldCount || findFields(column))
@@ -36,6 +38,7 @@ public:
 
         const Table &m_table;
         int m_row;
+        const size_t m_columnLimit;
         // What has been found so far: the fields of the first m_partCount parts.
         mutable std::vector<QStringView> m_fields;
         mutable size_t m_fieldCount = 0;
