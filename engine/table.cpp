@@ -197,7 +197,8 @@ void Table::appendReferences(std::vector<quint32> &references, int row) const
 bool Table::join(TextRows rows, int tableColumn, int fileColumn)
 {
     const int fileHeadCount = rows.rowCount() > 0 ? rows.fieldCount(0) : 0;
-    if (isEmpty() || tableColumn > m_columnCount || fileColumn > fileHeadCount)
+    if (isEmpty() || rows.rowCount() == 0 || tableColumn > m_columnCount
+        || fileColumn > fileHeadCount)
         return false;
 
     // The file's data rows by key, each group in the file's order.
@@ -231,7 +232,7 @@ bool Table::join(TextRows rows, int tableColumn, int fileColumn)
 void Table::removeRows(int row, int count)
 {
     const int first = qBound(0, row, m_rowCount);
-    const int last = qBound(first, row + count, m_rowCount);
+    const int last = first + qBound(0, count, m_rowCount - first);
     if (first == last)
         return;
     makeReferences();

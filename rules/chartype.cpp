@@ -26,8 +26,14 @@ void appendDecoded(TextBuffer &text, const QString &units)
     }
 }
 
-// Converts run by run: a character that the code page cannot hold ends a run and is copied, so its
-// code unit is never taken for a byte.
+bool endsWithSoundMark(const QString &units)
+{
+    return units.endsWith(QChar(0xDE)) || units.endsWith(QChar(0xDF));
+}
+
+// Converts run by run. A character that the code page cannot hold ends a run and is copied, so its
+// code unit is never taken for a byte. A double-byte character behind a sound mark begins a new run:
+// the mark's byte would otherwise be taken together with its first one, and the text be garbled.
 void convertRuns(Converter convert, QStringView text, TextBuffer &out)
 {
     QString run;
@@ -38,12 +44,14 @@ void convertRuns(Converter convert, QStringView text, TextBuffer &out)
     };
     for (const QChar character : text) {
         const quint16 code = Cp932::encode(character);
-        if (code != 0) {
-            appendBytes(run, code);
-        } else {
+        if (code == 0) {
             flush();
             out.append(character);
+            continue;
         }
+        if (code > 0xFF && endsWithSoundMark(run))
+            flush();
+        appendBytes(run, code);
     }
     flush();
 }

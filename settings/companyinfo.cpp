@@ -22,7 +22,7 @@ QString CompanyInfo::value(int number) const
     return number >= 0 && number < FieldCount ? fields[number] : QString();
 }
 
-CompanyInfo loadCompanyInfo()
+static CompanyInfo readCompanyInfo()
 {
     Settings settings(nullptr);
     const GroupScope group(settings, companyInfoGroup());
@@ -30,6 +30,11 @@ CompanyInfo loadCompanyInfo()
     for (int i = 0; i < CompanyInfo::FieldCount; ++i)
         company.fields[i] = settings.value(QLatin1String(fieldKeys[i])).toString();
     return company;
+}
+
+CompanyInfo loadCompanyInfo()
+{
+    return readTolerantly([] { return readCompanyInfo(); });
 }
 
 void saveCompanyInfo(const CompanyInfo &company)

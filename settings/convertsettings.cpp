@@ -3,17 +3,22 @@
 #include "settings/settings.h"
 #include "settings/settingsgroups.h"
 
-QStringList settingNames()
+static QStringList readSettingNames()
 {
     Settings settings(nullptr);
     const GroupScope settingInfo(settings, settingInfoGroup());
     return settings.childGroups();
 }
 
+QStringList settingNames()
+{
+    return readTolerantly([] { return readSettingNames(); });
+}
+
 void removeSetting(const QString &settingName)
 {
-    // An empty name would mean every setting to the library.
-    if (settingName.isEmpty())
+    // A name of nothing but separators would mean every setting to the library.
+    if (QString(settingName).remove(QLatin1Char('/')).isEmpty())
         return;
     Settings settings(nullptr);
     const GroupScope settingInfo(settings, settingInfoGroup());

@@ -3,7 +3,7 @@
 #include "settings/settings.h"
 #include "settings/settingsgroups.h"
 
-InputSetting loadInputSetting(const QString &settingName)
+static InputSetting readInputSetting(const QString &settingName)
 {
     Settings settings(nullptr);
     const GroupScope settingInfo(settings, settingInfoGroup());
@@ -26,6 +26,11 @@ InputSetting loadInputSetting(const QString &settingName)
     }
     settings.endArray();
     return input;
+}
+
+InputSetting loadInputSetting(const QString &settingName)
+{
+    return readTolerantly([&] { return readInputSetting(settingName); });
 }
 
 void saveInputSetting(const QString &settingName, const InputSetting &input)

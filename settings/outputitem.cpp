@@ -57,7 +57,7 @@ void OutputItem::removeCondition(int index)
     removeFrom(condRules, index);
 }
 
-QList<OutputItem> loadOutputItems(const QString &settingName)
+static QList<OutputItem> readOutputItems(const QString &settingName)
 {
     Settings settings(nullptr);
     const GroupScope settingInfo(settings, settingInfoGroup());
@@ -94,6 +94,11 @@ QList<OutputItem> loadOutputItems(const QString &settingName)
     }
     settings.endArray();
     return items;
+}
+
+QList<OutputItem> loadOutputItems(const QString &settingName)
+{
+    return readTolerantly([&] { return readOutputItems(settingName); });
 }
 
 void saveOutputItems(const QString &settingName, const QList<OutputItem> &items)

@@ -2,16 +2,7 @@
 
 namespace {
 
-const int trustedArraySize = 100000;
-
-int highestArrayEntry(const QSettings &settings)
-{
-    int highest = 0;
-    const QStringList groups = settings.childGroups();
-    for (const QString &group : groups)
-        highest = qMax(highest, group.toInt());
-    return highest;
-}
+const int greatestArraySize = 100000;
 
 } // namespace
 
@@ -22,13 +13,8 @@ QString settingInfoGroup()
 
 int beginBoundedReadArray(QSettings &settings, const QString &array)
 {
-    int size = qMax(0, settings.value(array + QStringLiteral("/size")).toInt());
-    if (size > trustedArraySize) {
-        const GroupScope scope(settings, array);
-        size = qMin(size, qMax(trustedArraySize, highestArrayEntry(settings)));
-    }
-    settings.beginReadArray(array);
-    return size;
+    const int size = settings.beginReadArray(array);
+    return qBound(0, size, greatestArraySize);
 }
 
 QStringList numbersToTexts(const QList<int> &numbers)

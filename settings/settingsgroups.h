@@ -4,6 +4,7 @@
 #include <QList>
 #include <QSettings>
 #include <QStringList>
+#include <new>
 
 /// Enters a group of a settings object and leaves it again at the end of the scope.
 class GroupScope
@@ -20,12 +21,23 @@ private:
     QSettings &m_settings;
 };
 
+/// Reads from the settings file. A damaged file can hold an object that claims to be larger than all
+/// memory, on which the library throws while it reads any neighbouring key: what is being read counts
+/// as empty then. Nothing else here throws.
+template <typename Read> auto readTolerantly(Read read) -> decltype(read())
+{
+    try {
+        return read();
+    } catch (const std::bad_alloc &) {
+        return {};
+    }
+}
+
 /// The group that holds one child group for each convert setting.
 QString settingInfoGroup();
 
-/// Begins to read an array and returns how many entries to read. A damaged size (negative, or far
-/// beyond what the file can hold) never makes the caller loop without end: up to a hundred thousand
-/// entries are taken as the file says, more only as far as entries really exist.
+/// Begins to read an array and returns how many entries to read. The size of a damaged file, which may
+/// be anything, is bounded by a hundred thousand, so that no caller loops without end.
 int beginBoundedReadArray(QSettings &settings, const QString &array);
 
 /// Numbers as the file keeps them: a list of decimal texts.

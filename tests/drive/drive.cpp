@@ -1,5 +1,6 @@
 #include "tests/drive/drive.h"
 
+#include "engine/runtexts.h"
 #include "tests/drive/userhands.h"
 
 #include <QApplication>
@@ -75,6 +76,14 @@ Drive::Drive(QMainWindow &window, const QString &screenshotFolder)
 }
 
 bool Drive::run(const QList<Conversion> &conversions)
+{
+    if (walk(conversions))
+        return true;
+    takeScreenshot(QStringLiteral("failure"));
+    return false;
+}
+
+bool Drive::walk(const QList<Conversion> &conversions)
 {
     if (!waitFor(QStringLiteral("the window to come up"),
                  [this] { return m_window.isVisible() && m_window.isActiveWindow(); }))
@@ -158,8 +167,8 @@ bool Drive::pressConvert()
     return click(QStringLiteral("convertButton")) &&
            waitFor(QStringLiteral("the conversion to succeed"), [&] {
                // The button tells this success from the one before: it was off without files.
-               return folderButton->isEnabled() && m_window.statusBar()->currentMessage() ==
-                                                       QLatin1String("Converting succeeded.");
+               return folderButton->isEnabled() &&
+                      m_window.statusBar()->currentMessage() == RunTexts::succeeded();
            });
 }
 

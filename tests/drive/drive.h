@@ -14,10 +14,12 @@ public:
     Drive(QMainWindow &window, const QString &screenshotFolder);
 
     /// Walks the whole way and prints the path of every output file and screenshot. The first thing
-    /// that is not as expected ends the walk: it is printed, and the answer is false.
+    /// that is not as expected ends the walk: it is printed, the screen is kept in a last
+    /// screenshot, and the answer is false.
     bool run(const QList<Conversion> &conversions);
 
 private:
+    bool walk(const QList<Conversion> &conversions);
     bool convert(const Conversion &conversion);
     bool showFileMenu();
     bool addInputFiles(const QStringList &files);

@@ -1,0 +1,22 @@
+// Quorin Converter: turns the order exports of web shops into the CSV file that a carrier takes.
+#include "app/mainwindow.h"
+#include "app/startup.h"
+
+#include <QApplication>
+#include <QTranslator>
+
+int main(int argc, char *argv[])
+{
+    prepareApplication();
+    const QString languageName = systemLanguageName();
+
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.00"));
+
+    QTranslator translator;
+    installTranslation(translator, languageName);
+
+    MainWindow window;
+    window.show();
+    return QApplication::exec();
+}
