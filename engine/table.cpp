@@ -196,9 +196,8 @@ void Table::appendReferences(std::vector<quint32> &references, int row) const
 
 bool Table::join(TextRows rows, int tableColumn, int fileColumn)
 {
-    const int fileHeadCount = rows.rowCount() > 0 ? rows.fieldCount(0) : 0;
     if (isEmpty() || rows.rowCount() == 0 || tableColumn > m_columnCount
-        || fileColumn > fileHeadCount)
+        || fileColumn > rows.fieldCount(0))
         return false;
 
     // The file's data rows by key, each group in the file's order.

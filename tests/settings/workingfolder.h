@@ -20,6 +20,7 @@ public:
     QString write(const QString &fileName, const QByteArray &bytes) const
     {
         QFile file(path(fileName));
+        file.remove(); // some file systems wait for the disk when an old file is written over
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("cannot write %s", qPrintable(file.fileName()));
         return file.fileName();
