@@ -290,8 +290,9 @@ QString applyRule(const QString &rule, const QString &value)
 
 QString applyRules(const QStringList &rules, const QString &value)
 {
+    const RuleList list(rules); // the result may be a view of a text that a rule holds
     WorkingText text;
     text.set(value);
-    RuleList(rules).apply(text);
+    list.apply(text);
     return text.toString();
 }
