@@ -5,8 +5,7 @@
 #include <QMimeData>
 #include <QUrl>
 
-namespace
-{
+namespace {
 
 QStringList droppedFiles(const QMimeData *data)
 {

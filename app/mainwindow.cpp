@@ -16,6 +16,7 @@
 #include <QShortcut>
 #include <QStatusTipEvent>
 #include <QStringListModel>
+#include <QTextDocument>
 #include <cstdlib>
 
 // Resources in a static library are only linked when someone asks for them; the macro must stand
@@ -25,8 +26,7 @@ static void initIcons()
     Q_INIT_RESOURCE(icons);
 }
 
-namespace
-{
+namespace {
 
 QString lastDirectoryKey()
 {
@@ -109,6 +109,7 @@ void MainWindow::createProgressBar()
 {
     m_progressBar = new QProgressBar;
     ui->statusBar->addPermanentWidget(m_progressBar);
+    m_progressBar->setObjectName(QStringLiteral("progressBar"));
     m_progressBar->setTextVisible(false);
     m_progressBar->setMaximumWidth(240); // leaves room for the run's texts beside it
     m_progressBar->hide();
@@ -116,6 +117,7 @@ void MainWindow::createProgressBar()
 
 void MainWindow::connectForm()
 {
+    ui->action_convert->setShortcuts({QStringLiteral("Ctrl+Return"), QStringLiteral("Ctrl+Enter")});
     connect(ui->action_exit, &QAction::triggered, this, &MainWindow::close);
     connect(ui->action_add, &QAction::triggered, this, &MainWindow::add_file);
     connect(ui->addButton, &QPushButton::clicked, this, &MainWindow::add_file);
@@ -129,6 +131,10 @@ void MainWindow::connectForm()
     connect(ui->targetFile, &QLineEdit::textChanged, this, &MainWindow::checkFields);
     connect(ui->convertSetting, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &MainWindow::checkFields);
+
+    // The keyboard's focus makes a row current without marking it; what Delete takes must be seen.
+    connect(ui->sourceFileList, &QListWidget::currentRowChanged, ui->sourceFileList,
+            [list = ui->sourceFileList](int row) { list->setCurrentRow(row); });
 
     auto *removeKey = new QShortcut(Qt::Key_Delete, ui->sourceFileList);
     removeKey->setContext(Qt::WidgetShortcut);
@@ -160,7 +166,8 @@ void MainWindow::addInputFiles(const QStringList &files)
             continue;
         listed.append(file);
         auto *item = new QListWidgetItem(file, ui->sourceFileList);
-        item->setToolTip(QDir::toNativeSeparators(file));
+        const QString path = QDir::toNativeSeparators(file);
+        item->setToolTip(Qt::mightBeRichText(path) ? path.toHtmlEscaped() : path);
     }
     if (ui->targetFile->text().isEmpty())
         setDefaultOutputFile();
@@ -198,8 +205,8 @@ void MainWindow::set_file()
 void MainWindow::checkFields()
 {
     m_progressBar->hide();
-    const bool ready = ui->sourceFileList->count() > 0 && !ui->targetFile->text().isEmpty() &&
-                       ui->convertSetting->currentIndex() >= 0;
+    const bool ready = ui->sourceFileList->count() > 0 && !ui->targetFile->text().isEmpty()
+        && ui->convertSetting->currentIndex() >= 0;
     ui->convertButton->setEnabled(ready);
     ui->action_convert->setEnabled(ready);
     if (ready)
@@ -219,9 +226,11 @@ void MainWindow::convert_file()
         const WaitCursor waitCursor;
         succeeded = runConversion(request, *this);
     }
+    if (succeeded)
+        return;
+    m_progressBar->hide(); // a full bar would look like success
     // Only now, when the run has closed its files and no wait cursor lies over the box.
-    if (!succeeded)
-        reportError(m_runError);
+    reportError(m_runError);
 }
 
 void MainWindow::reportError(const QString &text)
@@ -261,8 +270,8 @@ void MainWindow::finished()
 bool MainWindow::event(QEvent *event)
 {
     // The end of a tip would empty the status bar; the run's last word stays until the next one.
-    if (event->type() == QEvent::StatusTip &&
-        static_cast<QStatusTipEvent *>(event)->tip().isEmpty()) {
+    if (event->type() == QEvent::StatusTip
+        && static_cast<QStatusTipEvent *>(event)->tip().isEmpty()) {
         ui->statusBar->showMessage(m_status);
         return true;
     }

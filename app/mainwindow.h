@@ -13,8 +13,7 @@
 class QProgressBar;
 class QStringListModel;
 
-namespace Ui
-{
+namespace Ui {
 class MainWindow;
 }
 

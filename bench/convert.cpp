@@ -1,6 +1,7 @@
-// The whole engine without the window, on the generated orders: reads and joins two files, builds ten
-// output columns with rules and conditions, removes duplicates by order number, merges two columns as
-// texts and sums one, writes. Writes its own convert setting first.
+// The whole engine without the window, on the generated orders: reads and joins two files, builds
+// ten output columns with rules and conditions, removes duplicates by order number, merges two
+// columns as texts and sums one, writes. "setting" writes the convert setting for that, once, as a
+// user would have it already.
 #include "engine/conversionrun.h"
 #include "engine/runreporter.h"
 #include "settings/companyinfo.h"
@@ -38,8 +39,8 @@ void addCondition(OutputItem &item, int column, const char *condition)
     item.condRules.last() = QString::fromUtf8(condition);
 }
 
-// Columns: 0 주문번호, 1 주문일시, 2 수령인, 3 휴대전화, 4 우편번호, 5 주소, 6 배송메시지, 7 결제수단,
-// 8 결제금액, then 9 상품코드, 10 상품명, 11 옵션, 12 수량, 13 판매가.
+// Columns: 0 주문번호, 1 주문일시, 2 수령인, 3 휴대전화, 4 우편번호, 5 주소, 6 배송메시지, 7
+// 결제수단, 8 결제금액, then 9 상품코드, 10 상품명, 11 옵션, 12 수량, 13 판매가.
 QList<OutputItem> outputItems()
 {
     QList<OutputItem> items;
@@ -77,13 +78,15 @@ void writeSetting()
     InputSetting input;
     InputForm orders;
     orders.name = QStringLiteral("orders");
-    orders.heads = QString::fromUtf8("주문번호,주문일시,수령인,휴대전화,우편번호,주소,배송메시지,결제수단,"
-                                     "결제금액")
-                       .split(QLatin1Char(','));
+    orders.heads =
+        QString::fromUtf8("주문번호,주문일시,수령인,휴대전화,우편번호,주소,배송메시지,결제수단,"
+                          "결제금액")
+            .split(QLatin1Char(','));
     orders.key = orders.targetKey = -1;
     InputForm items;
     items.name = QStringLiteral("items");
-    items.heads = QString::fromUtf8("주문번호,상품코드,상품명,옵션,수량,판매가").split(QLatin1Char(','));
+    items.heads =
+        QString::fromUtf8("주문번호,상품코드,상품명,옵션,수량,판매가").split(QLatin1Char(','));
     input.files << orders << items;
     input.heads = orders.heads + items.heads.mid(1);
     saveInputSetting(settingName, input);
@@ -96,11 +99,15 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = application.arguments();
-    if (arguments.size() != 2 || !QDir::setCurrent(arguments.at(1))) {
-        QTextStream(stderr) << "usage: quorinBench FOLDER (with orders.csv and items.csv)\n";
+    const QString task = arguments.value(1);
+    if (arguments.size() != 3 || !QDir::setCurrent(arguments.at(2))) {
+        QTextStream(stderr) << "usage: quorinBench setting|convert FOLDER\n";
         return 2;
     }
-    writeSetting();
+    if (task == QLatin1String("setting")) {
+        writeSetting();
+        return 0;
+    }
     ConversionRequest request;
     request.inputFiles << QStringLiteral("orders.csv") << QStringLiteral("items.csv");
     request.outputFile = QStringLiteral("quorin.csv");

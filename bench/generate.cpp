@@ -1,5 +1,5 @@
-// Writes an invented order export of any size: orders.csv (one line per order) and items.csv (one to
-// three lines per order), joined by their first column. The same arguments give the same bytes.
+// Writes an invented order export of any size: orders.csv (one line per order) and items.csv (one
+// to three lines per order), joined by their first column. The same arguments give the same bytes.
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QFile>
@@ -26,11 +26,11 @@ const char *const familyNames[] = {"김", "이", "박", "최", "정", "강", "�
 const char *const givenNames[] = {"서준", "하은", "도윤", "지우", "예준", "서연", "민준", "지아"};
 const char *const towns[] = {"서울특별시 가온구 나래로", "부산광역시 다솔구 라온길",
                              "대구광역시 마루구 바다로", "경기도 사랑시 아름구 자람로"};
-const char *const goods[] = {"유기농 녹차 100g", "수제 딸기잼", "면 손수건 세트", "도자기 머그컵",
-                             "향초 (라벤더)",    "가죽 카드지갑", "Linen apron", "USB cable 1m"};
+const char *const goods[] = {"유기농 녹차 100g", "수제 딸기잼",   "면 손수건 세트", "도자기 머그컵",
+                             "향초 (라벤더)",    "가죽 카드지갑", "Linen apron",    "USB cable 1m"};
 const char *const options[] = {"기본", "색상: 하늘색", "크기: L", "선물 포장", ""};
-const char *const messages[] = {"", "문 앞에 놓아주세요", "배송 전에 연락 바랍니다", "경비실에 맡겨주세요",
-                                "Leave at the door"};
+const char *const messages[] = {"", "문 앞에 놓아주세요", "배송 전에 연락 바랍니다",
+                                "경비실에 맡겨주세요", "Leave at the door"};
 const char *const means[] = {"카드", "무통장입금", "휴대폰", "포인트"};
 
 template <size_t N> const char *pick(const char *const (&texts)[N], Random &random)
@@ -89,7 +89,8 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "cannot write to " << arguments.at(2) << '\n';
         return 1;
     }
-    orders.write("주문번호,주문일시,수령인,휴대전화,우편번호,주소,배송메시지,결제수단,결제금액\r\n");
+    orders.write(
+        "주문번호,주문일시,수령인,휴대전화,우편번호,주소,배송메시지,결제수단,결제금액\r\n");
     items.write("주문번호,상품코드,상품명,옵션,수량,판매가\r\n");
     Random random;
     for (int order = 1; order <= count; ++order)

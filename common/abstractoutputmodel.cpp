@@ -20,12 +20,12 @@ bool AbstractOutputModel::canDropMimeData(const QMimeData *data, Qt::DropAction 
                                           int column, const QModelIndex &parent) const
 {
     return data && action == Qt::CopyAction && row < 0 && column < 0
-           && flags(parent).testFlag(Qt::ItemIsDropEnabled) && !decodeDragItems(*data).isEmpty();
+        && flags(parent).testFlag(Qt::ItemIsDropEnabled) && !decodeDragItems(*data).isEmpty();
 }
 
 bool AbstractOutputModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row,
                                        int column, const QModelIndex &parent)
 {
     return canDropMimeData(data, action, row, column, parent)
-           && addDroppedItems(parent, decodeDragItems(*data));
+        && addDroppedItems(parent, decodeDragItems(*data));
 }

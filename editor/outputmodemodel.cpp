@@ -99,7 +99,7 @@ static bool showsTheSame(const OutputItem &item, const OutputItem &other, int ro
         return item.isDistinct() == other.isDistinct();
     default:
         return displayData(item, row) == displayData(other, row)
-               && editData(item, row) == editData(other, row);
+            && editData(item, row) == editData(other, row);
     }
 }
 
@@ -165,7 +165,7 @@ Qt::ItemFlags OutputModeModel::flags(const QModelIndex &index) const
 bool OutputModeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     OutputItem changed = item(index.column());
-    if (index.row() == NameRow && role == Qt::EditRole)
+    if (index.row() == NameRow && role != Qt::CheckStateRole)
         changed.name = value.toString();
     else if (index.row() == RulesRow && role == Qt::EditRole)
         changed.rules = value.toStringList();
@@ -315,8 +315,8 @@ bool OutputModeModel::addDroppedItems(const QModelIndex &index, const QList<Drag
     OutputItem changed = item(index.column());
     for (const DragItem &dropped : items) {
         const QString text = dropped.source == CompanySource
-                                 ? QLatin1Char('[') + dropped.text + QLatin1Char(']')
-                                 : dropped.text;
+            ? QLatin1Char('[') + dropped.text + QLatin1Char(']')
+            : dropped.text;
         if (index.row() == OutputRow)
             changed.appendMapping(dropped.source, dropped.number, text);
         else

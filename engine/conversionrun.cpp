@@ -12,6 +12,7 @@
 #include "settings/outputitem.h"
 
 #include <QFile>
+#include <new>
 
 namespace {
 
@@ -89,18 +90,25 @@ bool writeOutput(const ConversionRequest &request, const Table &table, RunReport
     return true;
 }
 
-} // namespace
-
-bool runConversion(const ConversionRequest &request, RunReporter &reporter)
+bool convert(const ConversionRequest &request, RunReporter &reporter)
 {
     reporter.status(RunTexts::checkingFields());
     if (!checkFields(request, reporter))
         return false;
     Table table;
-    if (!loadTable(request, table, reporter))
-        return false;
-    if (!writeOutput(request, table, reporter))
-        return false;
+    return loadTable(request, table, reporter) && writeOutput(request, table, reporter);
+}
+
+} // namespace
+
+bool runConversion(const ConversionRequest &request, RunReporter &reporter)
+{
+    try {
+        if (!convert(request, reporter))
+            return false;
+    } catch (const std::bad_alloc &) {
+        return fail(reporter, RunTexts::notEnoughMemory());
+    }
     reporter.status(RunTexts::succeeded());
     reporter.finished();
     return true;

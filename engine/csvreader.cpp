@@ -1,13 +1,14 @@
 #include "engine/csvreader.h"
 
 #include "engine/csvfield.h"
+#include "engine/runtexts.h"
 #include "engine/systemcodec.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTextCodec>
 #include <cstring>
 #include <limits>
+#include <new>
 #include <string_view>
 
 namespace {
@@ -49,8 +50,8 @@ public:
     // The first bytes of the device; to be asked before the first lines are taken.
     QByteArray beginning() const { return m_buffer.left(qMin(m_end, 4)); }
 
-    // One line, or (`wholeBlock`) as many as are at hand; none at the end of the device. Valid until
-    // the next call.
+    // One line, or (`wholeBlock`) as many as are at hand; none at the end of the device. Valid
+    // until the next call.
     Lines next(bool wholeBlock)
     {
         int end = lineEnd(m_begin, wholeBlock);
@@ -71,7 +72,8 @@ public:
     }
 
 private:
-    // Behind the first line feed, or (`last`) the last one, that is not before `from`; -1 without one.
+    // Behind the first line feed, or (`last`) the last one, that is not before `from`; -1 without
+    // one.
     int lineEnd(int from, bool last) const
     {
         const std::string_view bytes(m_buffer.constData(), size_t(m_end));
@@ -86,6 +88,8 @@ private:
         std::memmove(m_buffer.data(), m_buffer.constData() + m_begin, size_t(kept));
         // Grows with a line that does not end, so that a huge line is not copied again and again.
         const int wanted = qMax(blockSize, kept);
+        if (kept > std::numeric_limits<int>::max() - wanted)
+            throw std::bad_alloc(); // a line of a gigabyte
         if (m_buffer.size() < kept + wanted)
             m_buffer.resize(kept + wanted);
         const qint64 count = m_device.read(m_buffer.data() + kept, wanted);
@@ -188,7 +192,8 @@ private:
     {
         std::u16string &text = m_rows.text();
         const size_t trimmedEnd = skipSpacesBack(m_recordBegin, end);
-        const size_t lastComma = m_commaCount > 0 ? text.rfind(u',', end - 1) : std::u16string::npos;
+        const size_t lastComma =
+            m_commaCount > 0 ? text.rfind(u',', end - 1) : std::u16string::npos;
         const size_t lastBegin = lastComma == std::u16string::npos ? m_recordBegin : lastComma + 1;
         const size_t trimmedBegin = skipSpaces(lastBegin, end);
         if (trimmedBegin == lastBegin) {
@@ -246,11 +251,11 @@ private:
     TextRows &m_rows;
     const int m_maximumRows;
     qint64 m_headingCommaCount = 0;
-    qint64 m_commaCount = 0;  // of the record being collected
+    qint64 m_commaCount = 0; // of the record being collected
     bool m_hasQuote = false;
     size_t m_recordBegin = 0;
-    size_t m_rowsEnd = 0;     // behind the last row
-    bool m_pending = false;   // a record lacks fields
+    size_t m_rowsEnd = 0;   // behind the last row
+    bool m_pending = false; // a record lacks fields
 };
 
 } // namespace
@@ -263,8 +268,7 @@ TextRows readCsv(QIODevice &device)
 TextRows readCsv(QIODevice &device, int maximumRows)
 {
     LineSource source(device);
-    const QTextCodec *codec =
-        QTextCodec::codecForUtfText(source.beginning(), systemLocaleCodec());
+    const QTextCodec *codec = QTextCodec::codecForUtfText(source.beginning(), systemLocaleCodec());
     const bool wholeBlocks = decodesWholeBlocks(*codec);
 
     TextRows rows;
@@ -274,7 +278,8 @@ TextRows readCsv(QIODevice &device, int maximumRows)
         rows.text().reserve(size_t(device.size())); // no encoding gives more units than bytes
     parser.addLines(codec->toUnicode(lines.bytes, lines.size));
     if (maximumRows == allRows && lines.size > 0)
-        rows.reserveRows(1.1 * rows.rowCount() * double(device.size()) / lines.size);
+        rows.reserveRows(qMin(1.1 * rows.rowCount() * double(device.size()) / lines.size,
+                              double(device.size()) / 4));
     while (!parser.isFull() && (lines = source.next(wholeBlocks)).size > 0)
         parser.addLines(codec->toUnicode(lines.bytes, lines.size));
     rows.finish();
@@ -288,7 +293,7 @@ bool openCsvFile(QFile &file, QString *errorText)
         return false;
     }
     if (file.size() > TextRows::maximumUnits) {
-        *errorText = QCoreApplication::translate("ConversionRun", "The file is too large");
+        *errorText = RunTexts::fileTooLarge();
         return false;
     }
     return true;

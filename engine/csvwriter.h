@@ -33,7 +33,7 @@ private:
     QIODevice &m_device;
     const QTextCodec *m_codec;
     std::u16string m_buffer;
-    size_t m_rowBegin = 0;             // in the buffer, as are the field ends
-    std::vector<size_t> m_fieldEnds;   // of the row being written
+    size_t m_rowBegin = 0;           // in the buffer, as are the field ends
+    std::vector<size_t> m_fieldEnds; // of the row being written
     bool m_failed = false;
 };

@@ -14,6 +14,15 @@ void reportUnreadable(const QString &reason, RunReporter &reporter)
     reporter.error(RunTexts::cannotOpenInput().arg(reason));
 }
 
+// A file that breaks off halfway must not pass as a short one.
+bool checkRead(const QFile &file, RunReporter &reporter)
+{
+    if (file.error() == QFileDevice::NoError)
+        return true;
+    reportUnreadable(file.errorString(), reporter);
+    return false;
+}
+
 // Opens a file and compares its headings. Returns false after an error was reported.
 bool openAndCompare(QFile &file, const InputForm &form, bool *matches, RunReporter &reporter)
 {
@@ -23,17 +32,14 @@ bool openAndCompare(QFile &file, const InputForm &form, bool *matches, RunReport
         return false;
     }
     *matches = readCsv(file, 1).row(0) == form.heads;
-    return true;
+    return checkRead(file, reporter);
 }
 
-// Reads the rows of an open file. A file that breaks off halfway must not pass as a short one.
+// Reads the rows of an open file. Returns false after an error was reported.
 bool readRows(QFile &file, TextRows *rows, RunReporter &reporter)
 {
     *rows = readCsv(file);
-    if (file.error() == QFileDevice::NoError)
-        return true;
-    reportUnreadable(file.errorString(), reporter);
-    return false;
+    return checkRead(file, reporter);
 }
 
 } // namespace
@@ -82,8 +88,8 @@ bool loadMultipleForms(const QList<InputForm> &forms, const QStringList &files, 
             TextRows rows;
             if (!readRows(file, &rows, reporter))
                 return false;
-            // The stored pair is handed over crosswise, as existing settings rely on. A pair that the
-            // join refuses leaves the table as it is; the file counts as used all the same.
+            // The stored pair is handed over crosswise, as existing settings rely on. A pair that
+            // the join refuses leaves the table as it is; the file counts as used all the same.
             if (table.isEmpty())
                 table.setRows(std::move(rows));
             else

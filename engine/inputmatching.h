@@ -14,7 +14,7 @@ struct RunReporter;
 bool loadSingleForm(const InputForm &form, const QStringList &files, Table &table,
                     RunReporter &reporter);
 
-/// For a setting with several input forms: each takes the first file with its headings, and the files
-/// are joined in the order of the forms. Returns false after an error was reported.
+/// For a setting with several input forms: each takes the first file with its headings, and the
+/// files are joined in the order of the forms. Returns false after an error was reported.
 bool loadMultipleForms(const QList<InputForm> &forms, const QStringList &files, Table &table,
                        RunReporter &reporter);

@@ -4,7 +4,6 @@
 
 OutputRowBuilder::OutputRowBuilder(const QList<OutputItem> &items, const CompanyInfo &company)
 {
-    // A damaged setting may lack a kind, which then reads as 0.
     const auto source = [&company](int kind, int number) {
         const bool isInput = kind == InputSource;
         return Source{isInput, number, kind == CompanySource ? company.value(number) : QString()};
@@ -13,7 +12,7 @@ OutputRowBuilder::OutputRowBuilder(const QList<OutputItem> &items, const Company
     for (const OutputItem &stored : items) {
         Item item;
         for (int i = 0; i < stored.mapNums.size(); ++i) {
-            const int kind = stored.mapSources.value(i);
+            const int kind = stored.mapSources.value(i); // one that a damaged setting lacks is 0
             if (kind == InputSource || kind == CompanySource)
                 item.sources.push_back(source(kind, stored.mapNums.at(i)));
         }
@@ -33,6 +32,7 @@ int OutputRowBuilder::columnLimit(int itemCount) const
 {
     int limit = 0;
     const auto reads = [&limit](const Source &source) {
+        // No row has a column of the greatest number, and one more could not be told.
         if (source.isInput && source.column < INT_MAX)
             limit = qMax(limit, source.column + 1);
     };

@@ -1,6 +1,6 @@
-// Builds the values of one output row from one row of the input table: each output item collects its
-// sources, tests its conditions and applies its rules. A failing condition empties a value, never
-// drops a row.
+// Builds the values of one output row from one row of the input table: each output item collects
+// its sources, tests its conditions and applies its rules. A failing condition empties a value,
+// never drops a row.
 #pragma once
 
 #include "engine/table.h"

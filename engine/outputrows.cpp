@@ -19,7 +19,8 @@ OutputRows::OutputRows(const Table &table, const QList<OutputItem> &items,
                        const CompanyInfo &company)
     : m_builder(items, company), m_distinctCount(countDistinct(items)),
       m_inputRow(table, 0, m_builder.columnLimit(m_builder.itemCount())),
-      m_values(size_t(items.size())), m_key(table, m_builder, m_distinctCount)
+      m_tableRowCount(table.rowCount()), m_values(size_t(items.size())),
+      m_key(table, m_builder, m_distinctCount)
 {
     for (int i = 0; i < items.size(); ++i) {
         const OutputItem &item = items.at(i);
@@ -32,6 +33,7 @@ OutputRows::OutputRows(const Table &table, const QList<OutputItem> &items,
 
 void OutputRows::appendNext()
 {
+    Q_ASSERT(m_appended + 1 < m_tableRowCount);
     ++m_appended;
     if (m_distinctCount > 0) {
         m_key.moveTo(quint32(m_appended));

@@ -14,12 +14,14 @@ public:
     OutputRows(const Table &table, const QList<OutputItem> &items, const CompanyInfo &company);
     Q_DISABLE_COPY(OutputRows)
 
-    /// Adds the output row of the table's next data row.
+    /// Adds the output row of the table's next data row; called once for each data row at most.
     void appendNext();
 
-    /// Removes every row whose first N values equal those of an earlier row, N being the number of
-    /// items marked distinct (whichever items these are), and folds its values into the earlier row.
-    /// After that the after-merge rules apply. Without a distinct item nothing happens at all.
+    /// From now on the rows are those without duplicates: appendNext() has found them, buildRow()
+    /// merges their values. Removed is every row whose first N values equal those of an earlier
+    /// row, N being the number of items marked distinct (whichever items these are); its values are
+    /// folded into the earlier row, and after that the after-merge rules apply. Without a distinct
+    /// item nothing happens at all.
     void removeDuplicatesAndMerge();
 
     int count() const;
@@ -29,8 +31,8 @@ public:
     const std::vector<WorkingText> &buildRow(int row);
     QStringList row(int row);
 
-    /// The input row (of the table) that an output row was made of, and after it, in their order, those
-    /// that were folded into it; RowGroups::none ends them.
+    /// The input row (of the table) that an output row was made of, and after it, in their order,
+    /// those that were folded into it; RowGroups::none ends them.
     quint32 firstInputRow(int row) const;
     quint32 nextInputRow(quint32 inputRow) const;
 
@@ -42,7 +44,8 @@ private:
         quint32 sum; // of the row being built
     };
 
-    // The values by which rows are compared, built when they are needed; serves as a key of RowGroups.
+    // The values by which rows are compared, built when they are needed; serves as a key of
+    // RowGroups.
     class KeyBuilder
     {
     public:
@@ -82,6 +85,7 @@ private:
     RowGroups m_groups;
 
     Table::Row m_inputRow;
+    const int m_tableRowCount;
     std::vector<WorkingText> m_values;
     WorkingText m_folded;
     KeyBuilder m_key;

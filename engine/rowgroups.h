@@ -1,6 +1,6 @@
-// Groups of rows with equal keys. Joining and the removal of duplicates are built on it. Exports keep
-// the lines of an order together and the orders sorted; as long as that is so, neighbours are compared
-// and nothing else is needed. The first key out of order makes a hash table of all keys.
+// Groups of rows with equal keys. Joining and the removal of duplicates are built on it. Exports
+// keep the lines of an order together and the orders sorted; as long as that is so, neighbours are
+// compared and nothing else is needed. The first key out of order makes a hash table of all keys.
 //
 // Rows are known by number only. Whoever uses the groups gives a key object for the row at hand:
 //     int compareWith(quint32 row)   the key against that of a row added before: < 0, 0 or > 0
@@ -44,12 +44,13 @@ private:
     void rebuildSlots(size_t size);
 
     std::vector<Group> m_groups;
-    std::vector<quint32> m_next;   // by row
-    quint32 m_lastGroup = none;    // added to or found last
-    int m_direction = 0;           // while sorted: 1 rising, -1 falling, 0 not yet known
+    std::vector<quint32> m_next; // by row
+    quint32 m_lastGroup = none;  // added to last
+    quint32 m_foundGroup = 0;    // found last
+    int m_direction = 0;         // while sorted: 1 rising, -1 falling, 0 not yet known
     // The hash table, once there is one: open addressing, the size is a power of two.
-    std::vector<quint32> m_slots;  // group numbers
-    std::vector<uint> m_hashes;    // by group
+    std::vector<quint32> m_slots; // group numbers
+    std::vector<uint> m_hashes;   // by group
     int m_shift = 32;
 };
 
@@ -85,16 +86,16 @@ template <typename Key> quint32 RowGroups::find(Key &&key)
     if (m_groups.empty())
         return none;
     // Mostly the same key as before or the one behind it.
-    const quint32 last = m_lastGroup;
-    for (quint32 guess = last; guess < m_groups.size() && guess - last < 2; ++guess) {
+    const quint32 before = m_foundGroup;
+    for (quint32 guess = before; guess < m_groups.size() && guess - before < 2; ++guess) {
         if (key.compareWith(m_groups[guess].first) == 0)
-            return m_lastGroup = guess;
+            return m_foundGroup = guess;
     }
     if (!isIndexed())
         index(key);
     const quint32 group = findIndexed(key.hash(), key);
     if (group != none)
-        m_lastGroup = group;
+        m_foundGroup = group;
     return group;
 }
 

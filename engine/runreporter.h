@@ -10,7 +10,7 @@ struct RunReporter {
     /// The one failure that ends the run. Nothing follows it.
     virtual void error(const QString &text) = 0;
     /// How far the run is: `value` of 0 to `maximum` steps. Called at most about a thousand times
-    /// for each stage, always with the exact last value of the stage.
+    /// in each stage (building, writing), always with the exact last value of the stage.
     virtual void progress(int value, int maximum) = 0;
     /// The output file is complete. Called last, only after success.
     virtual void finished() = 0;

@@ -17,11 +17,13 @@ QString inputRequired();
 QString outputRequired();
 QString settingRequired();
 QString noInputForms();
-QString cannotOpenInput();      ///< %1: the system's reason
+QString cannotOpenInput(); ///< %1: the system's reason
+QString fileTooLarge();    ///< such a reason
 QString inputDoesNotMatch();
 QString wrongNumberOfInputs();
 QString noProperInput();
-QString cannotOpenOutput();     ///< %1: the system's reason
-QString cannotWriteOutput();    ///< %1: the system's reason
+QString cannotOpenOutput();  ///< %1: the system's reason
+QString cannotWriteOutput(); ///< %1: the system's reason
+QString notEnoughMemory();
 
 } // namespace RunTexts

@@ -12,10 +12,9 @@ public:
     void setMaximum(int maximum)
     {
         m_maximum = maximum;
-        m_step = qMax(1, maximum / 1000);
+        m_step = qMax(1, (maximum + 999) / 1000);
         report();
     }
-    int maximum() const { return m_maximum; }
 
     void advance()
     {

@@ -4,6 +4,7 @@
 #include "engine/textkey.h"
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -57,7 +58,8 @@ inline quint32 Table::reference(int row, size_t part) const
 
 void Table::Row::moveTo(int row)
 {
-    // The fields of the first parts are kept as long as these refer to the same file rows as before.
+    // The fields of the first parts are kept as long as these refer to the same file rows as
+    // before.
     size_t same = 0;
     if (!m_table.isPlain()) {
         const size_t width = m_table.m_parts.size();
@@ -213,6 +215,8 @@ bool Table::join(TextRows rows, int tableColumn, int fileColumn)
         const quint32 group = partners.find(FileKey{rows, fileColumn, field(row, tableColumn)});
         quint32 partner = group == RowGroups::none ? noRow : partners.first(group);
         do {
+            if (joined.size() > greatestRowCount * (m_parts.size() + 1))
+                throw std::bad_alloc();
             appendReferences(joined, row);
             joined.push_back(partner);
             partner = partner == noRow ? RowGroups::none : partners.next(partner);

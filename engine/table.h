@@ -13,8 +13,8 @@ class Table
     struct Part;
 
 public:
-    /// A cursor on one row. Fields are looked up as far as they are asked for, and kept when the next
-    /// row repeats them (as joined rows do). Valid as long as the table lives unchanged.
+    /// A cursor on one row. Fields are looked up as far as they are asked for, and kept when the
+    /// next row repeats them (as joined rows do). Valid as long as the table lives unchanged.
     class Row
     {
     public:
@@ -61,14 +61,17 @@ public:
 
     /// Replaces everything; row 0 is the heading row.
     void setRows(TextRows rows);
-    /// Adds the rows behind the heading row of `rows` at the end. To an empty table nothing is added.
+    /// Adds the rows behind the heading row of `rows` at the end; rows added to a joined table have
+    /// no partners. To an empty table nothing is added.
     void appendDataRows(TextRows rows);
 
-    /// Joins the rows of a further file on equal texts in `tableColumn` of the table and `fileColumn`
-    /// of the file. Its headings and values, without the file column, are added to the rows. A table
-    /// row becomes one row for each partner, in the file's order; without a partner it stays as it
-    /// is, shorter than the heading row. A column that does not exist reads as empty in every row.
-    /// Returns false and changes nothing when a column lies beyond the one behind the last.
+    /// Joins the rows of a further file on equal texts in `tableColumn` of the table and
+    /// `fileColumn` of the file. Its headings and values, without the file column, are added to the
+    /// rows. A table row becomes one row for each partner, in the file's order; without a partner
+    /// it stays as it is, shorter than the heading row. A column that does not exist reads as empty
+    /// in every row. Returns false and changes nothing when a column lies beyond the one behind the
+    /// last. Keys that are equal in too many rows on both sides (as with a wrong pair of columns)
+    /// throw std::bad_alloc before they fill all memory.
     bool join(TextRows rows, int tableColumn, int fileColumn);
 
     /// Removes `count` rows from `row` on; a range beyond the table is cut.
@@ -76,6 +79,7 @@ public:
 
 private:
     static constexpr quint32 noRow = 0xFFFFFFFF;
+    static constexpr size_t greatestRowCount = 200 * 1000 * 1000;
 
     // What one file, or several files of the same form, adds to a row.
     struct Part {

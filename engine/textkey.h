@@ -6,8 +6,9 @@
 #include <functional>
 #include <string_view>
 
-/// Negative, zero or positive, as `a` comes before, equals or comes after `b` in an order that numbers
-/// with and without leading zeros are in, too: a shorter text comes first.
+/// Negative, zero or positive, as `a` comes before, equals or comes after `b`. Shorter texts come
+/// first, so that running numbers rise with and without leading zeros; among texts of one length
+/// any fixed order does, and that of their bytes is the cheapest.
 inline int compareTexts(QStringView a, QStringView b)
 {
     if (a.size() != b.size())
@@ -19,6 +20,6 @@ inline int compareTexts(QStringView a, QStringView b)
 
 inline uint textHash(QStringView text)
 {
-    return uint(std::hash<std::u16string_view>()(std::u16string_view(
-        reinterpret_cast<const char16_t *>(text.data()), size_t(text.size()))));
+    return uint(std::hash<std::u16string_view>()(
+        std::u16string_view(reinterpret_cast<const char16_t *>(text.data()), size_t(text.size()))));
 }

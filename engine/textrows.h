@@ -1,9 +1,9 @@
 // Rows of texts in one block of memory: the rows behind one another, the fields of a row with a
-// separator between them. An order export is a million short texts; one string object for each would
-// cost twenty times as much time and space. Fields are found when a row is read.
+// separator between them. An order export is a million short texts; one string object for each
+// would cost twenty times as much time and space. Fields are found when a row is read.
 #pragma once
 
-#include "rules/unitscan.h"
+#include "engine/linescan.h"
 
 #include <QList>
 #include <QStringList>
@@ -50,12 +50,12 @@ public:
     QStringView field(int row, int column) const;
     QStringList row(int row) const;
 
-    /// For the reader, which fills the text first and then says which parts of it are rows, each with
-    /// at least one field. When the text is complete, finish() ends it.
+    /// For the reader, which fills the text first and then says which parts of it are rows, each
+    /// with at least one field. When the text is complete, finish() ends it.
     std::u16string &text() { return m_text; }
     void appendRow(size_t begin, size_t end) { m_rows.push_back({quint32(begin), quint32(end)}); }
     void finish() { m_text.append(UnitScan::padding, u'\0'); }
-    /// Sets memory aside for this many rows. Memory that is never used costs nothing.
+    /// Sets address space aside for this many rows, so that they need not be moved while they grow.
     void reserveRows(double count);
 
 private:

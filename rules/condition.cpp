@@ -138,7 +138,7 @@ bool evaluateNumberRange(const QStringList &parts, int number)
 bool conditionsHold(const QStringList &conditions, const QStringList &values,
                     const QString &combination)
 {
-    return combinedConditionsHold(
-        conditions.size(), combinationOf(combination),
-        [&](int i) { return Condition(conditions.at(i)).holds(values.value(i)); });
+    return combinedConditionsHold(conditions.size(), combinationOf(combination), [&](int i) {
+        return Condition(conditions.at(i)).holds(values.value(i));
+    });
 }

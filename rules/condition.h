@@ -40,7 +40,8 @@ private:
 class NumberRange
 {
 public:
-    /// `parts` are the lower and the upper bound; a bound that is missing or unknown bounds nothing.
+    /// `parts` are the lower and the upper bound; a bound that is missing or unknown bounds
+    /// nothing.
     explicit NumberRange(const QStringList &parts = QStringList());
 
     bool holds(int number) const;

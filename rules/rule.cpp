@@ -11,12 +11,10 @@ struct Rule::Keyword {
 
 // "curRight" is deliberately not here: stored settings hold it, and it has never done anything.
 const Rule::Keyword Rule::keywords[] = {
-    {"left", Kind::Left},           {"right", Kind::Right},
-    {"cutLeft", Kind::CutLeft},     {"cutRight", Kind::CutRight},
-    {"breakLine", Kind::BreakLine}, {"newLine", Kind::NewLine},
-    {"prepend", Kind::Prepend},     {"append", Kind::Append},
-    {"find", Kind::Find},           {"charType", Kind::CharType},
-    {"trim", Kind::Trim},           {"simplified", Kind::Simplified},
+    {"left", Kind::Left},         {"right", Kind::Right},         {"cutLeft", Kind::CutLeft},
+    {"cutRight", Kind::CutRight}, {"breakLine", Kind::BreakLine}, {"newLine", Kind::NewLine},
+    {"prepend", Kind::Prepend},   {"append", Kind::Append},       {"find", Kind::Find},
+    {"charType", Kind::CharType}, {"trim", Kind::Trim},           {"simplified", Kind::Simplified},
 };
 
 Rule::Rule(const QString &rule) : m_number(functionIntArg(rule)), m_argument(functionArgs(rule))
@@ -34,7 +32,8 @@ Rule::Rule(const QString &rule) : m_number(functionIntArg(rule)), m_argument(fun
         m_charType = charTypeConversion(m_argument);
 }
 
-// The argument is split at every comma, so neither the search text nor the replacement can hold one.
+// The argument is split at every comma, so neither the search text nor the replacement can hold
+// one.
 void Rule::readFind()
 {
     const QStringList parts = m_argument.split(QLatin1Char(','));
@@ -66,19 +65,19 @@ void Rule::apply(WorkingText &value) const
         return;
     case Kind::Left:
         if (m_number >= 0 && m_number < length)
-            value.narrow(text.left(m_number));
+            value.set(text.left(m_number));
         return;
     case Kind::Right:
         if (m_number >= 0 && m_number < length)
-            value.narrow(text.right(m_number));
+            value.set(text.right(m_number));
         return;
     case Kind::CutLeft:
         if (m_number > 0)
-            value.narrow(text.mid(qMin(m_number, length)));
+            value.set(text.mid(qMin(m_number, length)));
         return;
     case Kind::CutRight:
         if (m_number > 0)
-            value.narrow(text.left(length - qMin(m_number, length)));
+            value.set(text.left(length - qMin(m_number, length)));
         return;
     case Kind::BreakLine:
         applyBreakLine(value);
@@ -103,7 +102,7 @@ void Rule::apply(WorkingText &value) const
             m_charType(value);
         return;
     case Kind::Trim:
-        value.narrow(text.trimmed());
+        value.set(text.trimmed());
         return;
     case Kind::Simplified:
         value.rebuild([&](TextBuffer &out) { out.append(text.toString().simplified()); });

@@ -1,6 +1,6 @@
 // Rules: short texts such as left(10) or find(contains(a),matchedString,delete) that rewrite one
-// value. Lengths and positions count UTF-16 code units. Nothing is ever reported: a rule that is not
-// understood leaves the value as it is.
+// value. Lengths and positions count UTF-16 code units. Nothing is ever reported: a rule that is
+// not understood leaves the value as it is.
 #pragma once
 
 #include "rules/chartype.h"
@@ -18,6 +18,7 @@ class Rule
 public:
     explicit Rule(const QString &rule);
 
+    /// The value may become a view of a text that this rule holds.
     void apply(WorkingText &value) const;
 
 private:
@@ -66,6 +67,7 @@ public:
     explicit RuleList(const QStringList &rules = QStringList());
 
     bool isEmpty() const { return m_rules.empty(); }
+    /// The value may become a view of a text that this list holds.
     void apply(WorkingText &value) const;
 
 private:

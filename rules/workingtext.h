@@ -36,19 +36,17 @@ public:
     QStringView view() const { return m_view; }
     QString toString() const { return m_view.toString(); }
 
-    /// Makes the value a view of somebody else's text, which must outlive it.
+    /// Makes the value a view: of a part of itself, or of somebody else's text, which must outlive
+    /// it.
     void set(QStringView text) { m_view = text; }
     void clear() { m_view = QStringView(); }
-
-    /// Narrows the value to a part of itself.
-    void narrow(QStringView part) { m_view = part; }
 
     /// Adds a copy of a text behind the value. `text` must not be a part of this value.
     void append(QStringView text)
     {
         TextBuffer &buffer = m_buffers[m_current];
-        const bool isWholeBuffer = m_view.data() == buffer.view().data()
-            && m_view.size() == qsizetype(buffer.size());
+        const bool isWholeBuffer =
+            m_view.data() == buffer.view().data() && m_view.size() == qsizetype(buffer.size());
         if (isWholeBuffer) {
             buffer.append(text);
             m_view = buffer.view();
@@ -60,8 +58,8 @@ public:
         }
     }
 
-    /// Replaces the value by what `build` appends to the empty text it is given; the old value stays
-    /// readable meanwhile.
+    /// Replaces the value by what `build` appends to the empty text it is given; the old value
+    /// stays readable meanwhile.
     template <typename Build> void rebuild(Build build)
     {
         TextBuffer &next = m_buffers[1 - m_current];

@@ -6,9 +6,8 @@
 namespace {
 
 // In the order of CompanyInfo::Field.
-const char *const fieldKeys[CompanyInfo::FieldCount] = {"name",    "storeName", "storeSite",
-                                                        "postCode", "address",   "tel",
-                                                        "fax",     "email"};
+const char *const fieldKeys[CompanyInfo::FieldCount] = {
+    "name", "storeName", "storeSite", "postCode", "address", "tel", "fax", "email"};
 
 QString companyInfoGroup()
 {
@@ -34,7 +33,7 @@ static CompanyInfo readCompanyInfo()
 
 CompanyInfo loadCompanyInfo()
 {
-    return readTolerantly([] { return readCompanyInfo(); });
+    return tolerantly([] { return readCompanyInfo(); });
 }
 
 void saveCompanyInfo(const CompanyInfo &company)

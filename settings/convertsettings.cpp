@@ -12,7 +12,7 @@ static QStringList readSettingNames()
 
 QStringList settingNames()
 {
-    return readTolerantly([] { return readSettingNames(); });
+    return tolerantly([] { return readSettingNames(); });
 }
 
 void removeSetting(const QString &settingName)
@@ -20,7 +20,10 @@ void removeSetting(const QString &settingName)
     // A name of nothing but separators would mean every setting to the library.
     if (QString(settingName).remove(QLatin1Char('/')).isEmpty())
         return;
-    Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    settings.remove(settingName);
+    tolerantly([&] {
+        Settings settings(nullptr);
+        const GroupScope settingInfo(settings, settingInfoGroup());
+        settings.remove(settingName);
+        return true;
+    });
 }

@@ -20,8 +20,9 @@ static InputSetting readInputSetting(const QString &settingName)
         InputForm form;
         form.name = settings.value(QStringLiteral("name")).toString();
         form.heads = settings.value(QStringLiteral("heads")).toStringList();
-        form.targetKey = settings.value(QStringLiteral("targetKey")).toInt();
-        form.key = settings.value(QStringLiteral("key")).toInt();
+        // By way of the text: the library would cut a number beyond 32 bits instead of reading 0.
+        form.targetKey = settings.value(QStringLiteral("targetKey")).toString().toInt();
+        form.key = settings.value(QStringLiteral("key")).toString().toInt();
         input.files.append(form);
     }
     settings.endArray();
@@ -30,7 +31,7 @@ static InputSetting readInputSetting(const QString &settingName)
 
 InputSetting loadInputSetting(const QString &settingName)
 {
-    return readTolerantly([&] { return readInputSetting(settingName); });
+    return tolerantly([&] { return readInputSetting(settingName); });
 }
 
 void saveInputSetting(const QString &settingName, const InputSetting &input)

@@ -7,10 +7,10 @@
 
 /// One expected input file, recognised by its headings.
 struct InputForm {
-    QString name;       ///< file name of the sample it was made from, without extension
-    QStringList heads;  ///< the headings, in file order
-    int targetKey = 0;  ///< zero-based column of the combined item list; -1 for the first form
-    int key = 0;        ///< zero-based column of this form's own headings; -1 for the first form
+    QString name;      ///< file name of the sample it was made from, without extension
+    QStringList heads; ///< the headings, in file order
+    int targetKey = 0; ///< zero-based column of the combined item list; -1 for the first form
+    int key = 0;       ///< zero-based column of this form's own headings; -1 for the first form
 
     bool operator==(const InputForm &other) const
     {
@@ -28,8 +28,7 @@ struct InputSetting {
 
     bool operator==(const InputSetting &other) const
     {
-        return heads == other.heads && ex1 == other.ex1 && ex2 == other.ex2
-            && files == other.files;
+        return heads == other.heads && ex1 == other.ex1 && ex2 == other.ex2 && files == other.files;
     }
 };
 

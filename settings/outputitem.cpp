@@ -86,8 +86,7 @@ static QList<OutputItem> readOutputItems(const QString &settingName)
         item.condCombination = text("condCombination");
         item.rules = texts("rules");
         item.afterRules = texts("afterRules");
-        item.distinct =
-            settings.value(QStringLiteral("distinct"), QStringLiteral("NO")).toString();
+        item.distinct = settings.value(QStringLiteral("distinct"), QStringLiteral("NO")).toString();
         item.merge = text("merge");
         item.mergeSeparator = text("mergeSeparator");
         items.append(item);
@@ -98,7 +97,7 @@ static QList<OutputItem> readOutputItems(const QString &settingName)
 
 QList<OutputItem> loadOutputItems(const QString &settingName)
 {
-    return readTolerantly([&] { return readOutputItems(settingName); });
+    return tolerantly([&] { return readOutputItems(settingName); });
 }
 
 void saveOutputItems(const QString &settingName, const QList<OutputItem> &items)

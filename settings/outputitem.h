@@ -14,21 +14,21 @@ enum SourceKind {
 /// are those that begin with "cond" (and `conditions`); the functions below keep them so.
 /// Flags are texts because the settings file keeps them as texts.
 struct OutputItem {
-    QString name;              ///< the heading in the output file
-    QList<int> mapSources;     ///< SourceKind of each mapped value
-    QList<int> mapNums;        ///< number of each mapped value within its source
-    QStringList mappings;      ///< what the user sees of each mapped value
-    QString separator;         ///< put between the mapped values
-    QList<int> condSources;    ///< SourceKind of each tested value
-    QList<int> condNums;       ///< number of each tested value within its source
-    QStringList conditions;    ///< what the user sees of each tested value
-    QStringList condRules;     ///< the condition text of each tested value
-    QString condCombination;   ///< "AND" or "OR"; anything else never holds
-    QStringList rules;         ///< applied to the joined value
-    QStringList afterRules;    ///< applied after duplicates were merged
-    QString distinct;          ///< "YES": counts for the removal of duplicates
-    QString merge;             ///< "STRING", "NUMBER"; anything else keeps the first row's value
-    QString mergeSeparator;    ///< put before each text that a "STRING" merge adds
+    QString name;            ///< the heading in the output file
+    QList<int> mapSources;   ///< SourceKind of each mapped value
+    QList<int> mapNums;      ///< number of each mapped value within its source
+    QStringList mappings;    ///< what the user sees of each mapped value
+    QString separator;       ///< put between the mapped values
+    QList<int> condSources;  ///< SourceKind of each tested value
+    QList<int> condNums;     ///< number of each tested value within its source
+    QStringList conditions;  ///< what the user sees of each tested value
+    QStringList condRules;   ///< the condition text of each tested value
+    QString condCombination; ///< "AND" or "OR"; anything else never holds
+    QStringList rules;       ///< applied to the joined value
+    QStringList afterRules;  ///< applied after duplicates were merged
+    QString distinct;        ///< "YES": counts for the removal of duplicates
+    QString merge;           ///< "STRING", "NUMBER"; anything else keeps the first row's value
+    QString mergeSeparator;  ///< put before each text that a "STRING" merge adds
 
     bool operator==(const OutputItem &other) const;
 

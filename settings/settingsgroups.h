@@ -21,13 +21,13 @@ private:
     QSettings &m_settings;
 };
 
-/// Reads from the settings file. A damaged file can hold an object that claims to be larger than all
-/// memory, on which the library throws while it reads any neighbouring key: what is being read counts
-/// as empty then. Nothing else here throws.
-template <typename Read> auto readTolerantly(Read read) -> decltype(read())
+/// Works on the settings file. A damaged file can hold an object that claims to be larger than all
+/// memory, on which the library throws while it reads any neighbouring key: what is being read
+/// counts as empty then, and what is being removed stays.
+template <typename Work> auto tolerantly(Work work) -> decltype(work())
 {
     try {
-        return read();
+        return work();
     } catch (const std::bad_alloc &) {
         return {};
     }
@@ -36,8 +36,8 @@ template <typename Read> auto readTolerantly(Read read) -> decltype(read())
 /// The group that holds one child group for each convert setting.
 QString settingInfoGroup();
 
-/// Begins to read an array and returns how many entries to read. The size of a damaged file, which may
-/// be anything, is bounded by a hundred thousand, so that no caller loops without end.
+/// Begins to read an array and returns how many entries to read. The size of a damaged file, which
+/// may be anything, is bounded by a hundred thousand, so that no caller loops without end.
 int beginBoundedReadArray(QSettings &settings, const QString &array);
 
 /// Numbers as the file keeps them: a list of decimal texts.

@@ -27,8 +27,8 @@ void AnswerFileDialog::answer()
     if (m_paths.size() == 1)
         nameEdit->setText(m_paths.first());
     else
-        nameEdit->setText(QLatin1Char('"') + m_paths.join(QLatin1String("\" \"")) +
-                          QLatin1Char('"'));
+        nameEdit->setText(QLatin1Char('"') + m_paths.join(QLatin1String("\" \""))
+                          + QLatin1Char('"'));
     QTest::keyClick(nameEdit, Qt::Key_Return);
 }
 

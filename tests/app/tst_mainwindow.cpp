@@ -99,10 +99,10 @@ void TestMainWindow::widgetsHaveTheirTextsAndIcons_data()
     QTest::addColumn<QString>("icon");
     QTest::addColumn<bool>("enabled");
     // clang-format off
-    QTest::newRow("sourceFileList")   << "QListWidget" << ""               << ""                                     << ""                               << ""           << true;
+    QTest::newRow("sourceFileList")   << "QListWidget" << ""               << ""                                     << "입력파일"                       << ""           << true;
     QTest::newRow("addButton")        << "QPushButton" << ""               << "입력파일을 추가합니다"                << "입력파일을 추가합니다"          << "add"        << true;
     QTest::newRow("removeButton")     << "QPushButton" << ""               << "선택된 입력파일을 제외합니다"         << "선택된 입력파일을 제외합니다"   << "delete"     << true;
-    QTest::newRow("convertSetting")   << "QComboBox"   << ""               << "변환에 사용할 설정을 선택합니다"      << ""                               << ""           << true;
+    QTest::newRow("convertSetting")   << "QComboBox"   << ""               << "변환에 사용할 설정을 선택합니다"      << "변환설정"                       << ""           << true;
     QTest::newRow("configButton")     << "QPushButton" << ""               << "선택된 설정을 수정합니다"             << "선택된 설정을 수정합니다"       << "table_gear" << false;
     QTest::newRow("targetFile")       << "QLineEdit"   << ""               << "출력파일을 지정합니다"                << ""                               << ""           << true;
     QTest::newRow("setButton")        << "QPushButton" << ""               << "출력파일을 지정합니다"                << "출력파일을 지정합니다"          << "folder"     << true;
@@ -202,8 +202,8 @@ void TestMainWindow::tabOrderFollowsTheWork()
     const QWidget *first = find<QWidget>("sourceFileList");
     const QWidget *widget = first;
     do {
-        if (m_window->centralWidget()->isAncestorOf(widget) &&
-            (widget->focusPolicy() & Qt::TabFocus) != 0)
+        if (m_window->centralWidget()->isAncestorOf(widget)
+            && (widget->focusPolicy() & Qt::TabFocus) != 0)
             names.append(widget->objectName());
         widget = widget->nextInFocusChain();
     } while (widget != first);
@@ -220,14 +220,15 @@ void TestMainWindow::slotsKeepTheirOrder()
         if (meta->method(index).methodType() == QMetaMethod::Slot)
             names.append(QString::fromLatin1(meta->method(index).methodSignature()));
     }
-    QCOMPARE(names, (QStringList{QStringLiteral("add_file()"), QStringLiteral("del_file()"),
-                                 QStringLiteral("set_file()"), QStringLiteral("convert_file()"),
-                                 QStringLiteral("checkFields()"),
-                                 QStringLiteral("on_printButton_clicked()"),
-                                 QStringLiteral("on_action_velmora_triggered()"),
-                                 QStringLiteral("on_openFolderButton_clicked()"),
-                                 QStringLiteral("updateAlert(QString,QString)"),
-                                 QStringLiteral("on_action_help_triggered()")}));
+    QCOMPARE(
+        names,
+        (QStringList{QStringLiteral("add_file()"), QStringLiteral("del_file()"),
+                     QStringLiteral("set_file()"), QStringLiteral("convert_file()"),
+                     QStringLiteral("checkFields()"), QStringLiteral("on_printButton_clicked()"),
+                     QStringLiteral("on_action_velmora_triggered()"),
+                     QStringLiteral("on_openFolderButton_clicked()"),
+                     QStringLiteral("updateAlert(QString,QString)"),
+                     QStringLiteral("on_action_help_triggered()")}));
 }
 
 void TestMainWindow::iconOnlyButtonsAreSquare()

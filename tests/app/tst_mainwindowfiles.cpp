@@ -42,6 +42,7 @@ private slots:
     void deletingRows_data();
     void deletingRows();
     void deleteKeyRemovesTheRow();
+    void focusShowsWhichRowDeleteTakes();
     void removeWithoutARowDoesNothing();
     void removeFromAnEmptyListClearsTheOutputFile();
     void removingTheLastFileDisablesAll();
@@ -295,6 +296,17 @@ void TestMainWindowFiles::deleteKeyRemovesTheRow()
     QCOMPARE(listed(), QStringList{path("one.csv")});
 }
 
+void TestMainWindowFiles::focusShowsWhichRowDeleteTakes()
+{
+    add({path("one.csv"), path("two.csv")});
+    auto *list = find<QListWidget>("sourceFileList");
+    activate();
+    QVERIFY(list->selectedItems().isEmpty());
+    list->setFocus(Qt::TabFocusReason);
+    QCOMPARE(list->currentRow(), 0);
+    QCOMPARE(list->selectedItems(), QList<QListWidgetItem *>{list->item(0)});
+}
+
 void TestMainWindowFiles::removeWithoutARowDoesNothing()
 {
     find<QLineEdit>("targetFile")->setText(QStringLiteral("chosen.csv"));
@@ -396,9 +408,9 @@ void TestMainWindowFiles::readiness()
         add({path("one.csv")});
     find<QLineEdit>("targetFile")->setText(hasOutput ? QStringLiteral("out.csv") : QString());
     find<QComboBox>("convertSetting")->setCurrentIndex(hasSetting ? 0 : -1);
-    QCOMPARE(enabledControls(), hasInput && hasOutput && hasSetting
-                                    ? QStringLiteral("convertButton action_convert")
-                                    : QString());
+    QCOMPARE(enabledControls(),
+             hasInput && hasOutput && hasSetting ? QStringLiteral("convertButton action_convert")
+                                                 : QString());
 }
 
 void TestMainWindowFiles::readinessNeverEnablesTheResults()

@@ -19,8 +19,7 @@
 #include <QUrl>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 const QString updateText = QStringLiteral("There is newer version available.\n"
                                           "Do you want to update now?\n"
@@ -90,6 +89,7 @@ private slots:
     void failedRunIsReported_data();
     void failedRunIsReported();
     void windowIsUsableAfterAFailure();
+    void failureHidesTheBarOfTheRunBefore();
     void folderIsShownInTheExplorer();
     void folderIsShownByTheDesktopWithoutExplorer();
     void statementIsOpened();
@@ -101,7 +101,7 @@ private slots:
 
 void TestMainWindowRun::conversion_data()
 {
-    addControls({"convertButton", "action_convert", "Ctrl+Return"});
+    addControls({"convertButton", "action_convert", "Ctrl+Return", "Ctrl+Enter"});
 }
 
 void TestMainWindowRun::conversion()
@@ -225,6 +225,19 @@ void TestMainWindowRun::windowIsUsableAfterAFailure()
     QCOMPARE(m_window->statusBar()->currentMessage(), QStringLiteral("Converting succeeded."));
 }
 
+void TestMainWindowRun::failureHidesTheBarOfTheRunBefore()
+{
+    add({path("one.csv")});
+    click("convertButton");
+    const auto *bar = find<QProgressBar>("progressBar");
+    QVERIFY(bar->isVisible());
+    QVERIFY(QFile::remove(path("one.csv")));
+    const AnswerMessageBox box(Qt::Key_Return);
+    click("convertButton");
+    QCOMPARE(box.title, QStringLiteral("Error"));
+    QVERIFY(!bar->isVisible());
+}
+
 /// Gives the process another search path for programs while it lives.
 class SearchPath
 {
@@ -248,8 +261,9 @@ static void writeProgram(const QString &name, const QByteArray &script)
 
 void TestMainWindowRun::folderIsShownInTheExplorer()
 {
-    writeProgram(path("programs/explorer.exe"), "printf '%s\\n' \"$#\" \"$1\" > explored.tmp\n"
-                                                "/bin/mv explored.tmp explored\n");
+    writeProgram(path("programs/explorer.exe"),
+                 "printf '%s\\n' \"$#\" \"$1\" > explored.tmp\n"
+                 "/bin/mv explored.tmp explored\n");
     QVERIFY(QDir().mkpath(path("my, results")));
     QVERIFY(QFile::link(path("my, results"), path("linked")));
     add({path("one.csv")});

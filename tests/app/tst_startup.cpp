@@ -15,8 +15,7 @@
 #include <cstdio>
 #include <optional>
 
-namespace
-{
+namespace {
 
 const char windowTitle[] = "쿼린 컨버터";
 
@@ -129,8 +128,8 @@ void TestStartup::highResolutionScreensAreServed()
 {
     QVERIFY(QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling));
     QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
-    QVERIFY(QGuiApplication::highDpiScaleFactorRoundingPolicy() ==
-            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QVERIFY(QGuiApplication::highDpiScaleFactorRoundingPolicy()
+            == Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
 void TestStartup::languageIsTheSystems_data()

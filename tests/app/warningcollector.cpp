@@ -2,8 +2,7 @@
 
 #include <QtGlobal>
 
-namespace
-{
+namespace {
 
 QStringList collected;
 QtMessageHandler previousHandler = nullptr;

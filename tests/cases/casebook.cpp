@@ -79,8 +79,9 @@ void addDuplicates(QList<Case> &book)
     // One row for each order: the names of its items merged, the numbers added.
     book += Case("merge-texts-and-numbers-of-an-order")
                 .form("no,name,item,count")
-                .file("orders.csv", "no,name,item,count\n"
-                                    "1,김민수,펜,2\n2,이영희,컵,1\n1,김민수,공책,3\n1,김민수,,4\n")
+                .file("orders.csv",
+                      "no,name,item,count\n"
+                      "1,김민수,펜,2\n2,이영희,컵,1\n1,김민수,공책,3\n1,김민수,,4\n")
                 .column(Column("no").from({0}).distinct())
                 .column(Column("name").from({1}))
                 .column(Column("items").from({2}).mergeTexts("/"))
@@ -105,13 +106,13 @@ void addDuplicates(QList<Case> &book)
 
     // What is no 32-bit number counts as 0. A value without a duplicate stays as it is written, and
     // sums wrap around.
-    book +=
-        Case("merge-numbers-reads-other-texts-as-zero")
-            .form("no,count")
-            .file("a.csv", "no,count\n1,1.000\n1,5\n1,abc\n2,007\n3,2147483647\n3,1\n4,-2\n4, 1\n"
-                           "5,3.5\n")
-            .column(Column("no").from({0}).distinct())
-            .column(Column("sum").from({1}).mergeNumbers());
+    book += Case("merge-numbers-reads-other-texts-as-zero")
+                .form("no,count")
+                .file("a.csv",
+                      "no,count\n1,1.000\n1,5\n1,abc\n2,007\n3,2147483647\n3,1\n4,-2\n4, 1\n"
+                      "5,3.5\n")
+                .column(Column("no").from({0}).distinct())
+                .column(Column("sum").from({1}).mergeNumbers());
 
     // The merged value holds line breaks and is written inside quotes.
     book += Case("merge-with-a-line-break-is-quoted")
@@ -263,13 +264,15 @@ void addInputs(QList<Case> &book)
     // The record with the comma inside quotes has four fields under three headings and is dropped.
     book += columns(Case("input-quoted-comma-drops-the-record")
                         .form("no,name,address")
-                        .file("a.csv", "no,name,address\n1,Kim,\"Seoul, Mapo\"\n2,\"Lee\",Busan\n"
-                                       "3,\"Han \"\"K\"\"\",Jeju\n"));
+                        .file("a.csv",
+                              "no,name,address\n1,Kim,\"Seoul, Mapo\"\n2,\"Lee\",Busan\n"
+                              "3,\"Han \"\"K\"\"\",Jeju\n"));
     // The break stays in the value, and the value is written inside quotes again.
     book += columns(Case("input-line-break-in-a-quoted-field")
                         .form("no,memo,name")
-                        .file("a.csv", "no,memo,name\r\n1,\"leave it\r\nat the door\",Kim\r\n"
-                                       "2,none,Lee\r\n"));
+                        .file("a.csv",
+                              "no,memo,name\r\n1,\"leave it\r\nat the door\",Kim\r\n"
+                              "2,none,Lee\r\n"));
     // A blank line becomes part of the next record's first field.
     book += columns(Case("input-blank-lines-go-into-the-next-record")
                         .form("a,b,c")

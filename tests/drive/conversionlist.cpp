@@ -3,8 +3,7 @@
 #include <QDir>
 #include <QFile>
 
-namespace
-{
+namespace {
 
 QString absolutePath(const QString &path)
 {

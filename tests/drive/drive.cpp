@@ -23,8 +23,7 @@
 #include <QThread>
 #include <cstdio>
 
-namespace
-{
+namespace {
 
 const int patienceMilliseconds = 60000;
 const int pollMilliseconds = 30;
@@ -101,10 +100,10 @@ bool Drive::convert(const Conversion &conversion)
 {
     // An output file of an earlier walk would prove nothing.
     QFile::remove(conversion.outputFile);
-    return addInputFiles(conversion.inputFiles) && chooseSetting(conversion.settingName) &&
-           chooseOutputFile(conversion.outputFile) && pressConvert() &&
-           takeScreenshot(fileNamePart(conversion.settingName)) && checkOutput(conversion) &&
-           removeInputFiles();
+    return addInputFiles(conversion.inputFiles) && chooseSetting(conversion.settingName)
+        && chooseOutputFile(conversion.outputFile) && pressConvert()
+        && takeScreenshot(fileNamePart(conversion.settingName)) && checkOutput(conversion)
+        && removeInputFiles();
 }
 
 bool Drive::showFileMenu()
@@ -116,10 +115,10 @@ bool Drive::showFileMenu()
         return bar->mapToGlobal(center) * bar->devicePixelRatioF();
     });
     const auto open = [] { return QApplication::activePopupWidget() != nullptr; };
-    return UserHands::clickAt(title) && waitFor(QStringLiteral("the file menu to open"), open) &&
-           takeScreenshot(QStringLiteral("file_menu")) &&
-           UserHands::press({QStringLiteral("Escape")}) &&
-           waitFor(QStringLiteral("the file menu to close"), [open] { return !open(); });
+    return UserHands::clickAt(title) && waitFor(QStringLiteral("the file menu to open"), open)
+        && takeScreenshot(QStringLiteral("file_menu"))
+        && UserHands::press({QStringLiteral("Escape")})
+        && waitFor(QStringLiteral("the file menu to close"), [open] { return !open(); });
 }
 
 bool Drive::addInputFiles(const QStringList &files)
@@ -144,10 +143,10 @@ bool Drive::chooseSetting(const QString &settingName)
     keys.append(QStringLiteral("Return"));
 
     const auto popupOpen = [] { return QApplication::activePopupWidget() != nullptr; };
-    return click(QStringLiteral("convertSetting")) &&
-           waitFor(QStringLiteral("the list of settings to open"), popupOpen) &&
-           UserHands::press(keys) &&
-           waitFor(QStringLiteral("the setting \"%1\" to be chosen").arg(settingName),
+    return click(QStringLiteral("convertSetting"))
+        && waitFor(QStringLiteral("the list of settings to open"), popupOpen)
+        && UserHands::press(keys)
+        && waitFor(QStringLiteral("the setting \"%1\" to be chosen").arg(settingName),
                    [&] { return !popupOpen() && combo->currentText() == settingName; });
 }
 
@@ -155,8 +154,8 @@ bool Drive::chooseOutputFile(const QString &file)
 {
     if (onGui([this] { return targetFile(); }) == file)
         return true;
-    return answerFileDialog(QStringLiteral("setButton"), file) &&
-           waitFor(QStringLiteral("the output file to be %1").arg(file),
+    return answerFileDialog(QStringLiteral("setButton"), file)
+        && waitFor(QStringLiteral("the output file to be %1").arg(file),
                    [&] { return targetFile() == file; });
 }
 
@@ -164,11 +163,11 @@ bool Drive::pressConvert()
 {
     const auto *folderButton =
         m_window.findChild<QPushButton *>(QStringLiteral("openFolderButton"));
-    return click(QStringLiteral("convertButton")) &&
-           waitFor(QStringLiteral("the conversion to succeed"), [&] {
+    return click(QStringLiteral("convertButton"))
+        && waitFor(QStringLiteral("the conversion to succeed"), [&] {
                // The button tells this success from the one before: it was off without files.
-               return folderButton->isEnabled() &&
-                      m_window.statusBar()->currentMessage() == RunTexts::succeeded();
+               return folderButton->isEnabled()
+                   && m_window.statusBar()->currentMessage() == RunTexts::succeeded();
            });
 }
 
@@ -190,9 +189,9 @@ bool Drive::removeInputFiles()
             const QPoint point(row.left() + 20, row.center().y());
             return list->viewport()->mapToGlobal(point) * list->devicePixelRatioF();
         });
-        if (!UserHands::clickAt(firstRow) || !click(QStringLiteral("removeButton")) ||
-            !waitFor(QStringLiteral("a row to be removed"),
-                     [&] { return list->count() == left - 1; }))
+        if (!UserHands::clickAt(firstRow) || !click(QStringLiteral("removeButton"))
+            || !waitFor(QStringLiteral("a row to be removed"),
+                        [&] { return list->count() == left - 1; }))
             return false;
     }
     return waitFor(QStringLiteral("the output file to be cleared"),
@@ -201,8 +200,8 @@ bool Drive::removeInputFiles()
 
 bool Drive::quit()
 {
-    return UserHands::press({QStringLiteral("ctrl+q")}) &&
-           waitFor(QStringLiteral("the window to close"), [this] { return !m_window.isVisible(); });
+    return UserHands::press({QStringLiteral("ctrl+q")})
+        && waitFor(QStringLiteral("the window to close"), [this] { return !m_window.isVisible(); });
 }
 
 bool Drive::answerFileDialog(const QString &buttonName, const QString &answer)
@@ -212,17 +211,17 @@ bool Drive::answerFileDialog(const QString &buttonName, const QString &answer)
         const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         return dialog != nullptr && dialog->isActiveWindow();
     };
-    return click(buttonName) && waitFor(QStringLiteral("the file dialog"), dialogReady) &&
-           click(QStringLiteral("fileNameEdit")) && UserHands::press({QStringLiteral("ctrl+a")}) &&
-           UserHands::type(answer) &&
-           waitFor(QStringLiteral("the file dialog to show \"%1\"").arg(answer),
+    return click(buttonName) && waitFor(QStringLiteral("the file dialog"), dialogReady)
+        && click(QStringLiteral("fileNameEdit")) && UserHands::press({QStringLiteral("ctrl+a")})
+        && UserHands::type(answer)
+        && waitFor(QStringLiteral("the file dialog to show \"%1\"").arg(answer),
                    [&] {
                        const auto *edit = frontWindow(m_window)->findChild<QLineEdit *>(
                            QStringLiteral("fileNameEdit"));
                        return edit != nullptr && edit->text() == answer;
-                   }) &&
-           UserHands::press({QStringLiteral("Return")}) &&
-           waitFor(QStringLiteral("the file dialog to close"), noDialog);
+                   })
+        && UserHands::press({QStringLiteral("Return")})
+        && waitFor(QStringLiteral("the file dialog to close"), noDialog);
 }
 
 bool Drive::click(const QString &objectName)

@@ -15,8 +15,7 @@
 #include <cstdio>
 #include <memory>
 
-namespace
-{
+namespace {
 
 int refuse(const QString &text)
 {

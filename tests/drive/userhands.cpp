@@ -6,8 +6,7 @@
 #include <QStandardPaths>
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 bool xdotool(const QStringList &arguments)
 {
@@ -55,6 +54,6 @@ bool UserHands::type(const QString &text)
     return onGui([&] {
                QGuiApplication::clipboard()->setText(text);
                return true;
-           }) &&
-           press({QStringLiteral("ctrl+v")});
+           })
+        && press({QStringLiteral("ctrl+v")});
 }

@@ -17,8 +17,7 @@ template <typename Function> auto onGui(Function function)
     return result;
 }
 
-namespace UserHands
-{
+namespace UserHands {
 
 /// Empty when the hands can work here, else what is missing.
 QString whatIsMissing();

@@ -760,14 +760,15 @@ void TestInputModeModel::loadReplacesWhatWasThere()
 void TestInputModeModel::damagedSettingsAreSafe()
 {
     const WorkingFolder folder;
-    folder.write("quorinConverter.dat", "[SettingInfo]\n"
-                                        "A\\input\\ex1=1, 2, 3, 4\n"
-                                        "A\\input\\files\\1\\heads=a, b\n"
-                                        "A\\input\\files\\2\\heads=c, d\n"
-                                        "A\\input\\files\\2\\key=-2000000000\n"
-                                        "A\\input\\files\\3\\heads=e\n"
-                                        "A\\input\\files\\3\\key=2000000000\n"
-                                        "A\\input\\files\\size=3\n");
+    folder.write("quorinConverter.dat",
+                 "[SettingInfo]\n"
+                 "A\\input\\ex1=1, 2, 3, 4\n"
+                 "A\\input\\files\\1\\heads=a, b\n"
+                 "A\\input\\files\\2\\heads=c, d\n"
+                 "A\\input\\files\\2\\key=-2000000000\n"
+                 "A\\input\\files\\3\\heads=e\n"
+                 "A\\input\\files\\3\\key=2000000000\n"
+                 "A\\input\\files\\size=3\n");
     Input model;
     model.load("A");
     QVERIFY(model.isEmpty());

@@ -8,8 +8,7 @@
 #include <QStringList>
 #include <QTextCodec>
 
-namespace CsvOracle
-{
+namespace CsvOracle {
 
 inline QString unquoted(const QString &text)
 {

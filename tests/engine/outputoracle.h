@@ -8,8 +8,7 @@
 #include "settings/companyinfo.h"
 #include "settings/outputitem.h"
 
-namespace OutputOracle
-{
+namespace OutputOracle {
 
 inline QString sourceValue(int kind, int number, const QStringList &inputRow,
                            const CompanyInfo &company)

@@ -18,8 +18,8 @@ inline QString rowLine(const QStringList &fields)
                 line += "\\r";
             else if (unit == '|' || unit == '\\')
                 line += QString("\\") + unit;
-            else if (unit < ' ' || unit.isSurrogate() || unit >= QChar(0xFFF0) ||
-                     unit == QChar(0xFEFF))
+            else if (unit < ' ' || unit.isSurrogate() || unit >= QChar(0xFFF0)
+                     || unit == QChar(0xFEFF))
                 line += QStringLiteral("\\x%1;").arg(unit.unicode(), 0, 16);
             else
                 line += unit;

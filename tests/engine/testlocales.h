@@ -29,9 +29,11 @@ private:
     void make(const QString &language, const QString &codePage)
     {
         const QString name = language + '.' + codePage;
-        const bool made = !QStandardPaths::findExecutable("localedef").isEmpty() &&
-                          QProcess::execute("localedef", {"-i", language, "-f", codePage, "--quiet",
-                                                          m_folder.filePath(name)}) == 0;
+        const bool made = !QStandardPaths::findExecutable("localedef").isEmpty()
+            && QProcess::execute(
+                   "localedef",
+                   {"-i", language, "-f", codePage, "--quiet", m_folder.filePath(name)})
+                == 0;
         (made ? m_names : m_missing).append(name);
     }
 

@@ -11,8 +11,7 @@
 #include <QtTest>
 #include <clocale>
 
-namespace
-{
+namespace {
 
 const QString settingName = "cart";
 
@@ -82,6 +81,8 @@ private slots:
     void unwritableOutput();
     void readOnlyOutput();
     void fullDisk();
+
+    void headingThatCannotBeReadIsNotAnotherHeading();
 
     void overwritesTheOutput();
     void outputOverAnInputFile();
@@ -165,21 +166,23 @@ void TestConversionRun::saysWhatItDoes()
 {
     saveOneFormSetting();
     QVERIFY(run({write("a.csv", "no,name\n1,Kim\n2,Lee\n"), write("b.csv", "no,name\n1,Kim\n")}));
-    QCOMPARE(m_reporter.log, beginning + (QStringList{
-                                             "status: Generating output file...",
-                                             "progress: 0 of 3",
-                                             "status: Start converting...",
-                                             "progress: 1 of 3",
-                                             "progress: 2 of 3",
-                                             "progress: 3 of 3",
-                                             "status: Deleting duplication and merging items...",
-                                             "progress: 3 of 6",
-                                             "progress: 4 of 6",
-                                             "progress: 5 of 6",
-                                             "progress: 6 of 6",
-                                             "status: Converting succeeded.",
-                                             "finished",
-                                         }));
+    QCOMPARE(m_reporter.log,
+             beginning
+                 + (QStringList{
+                     "status: Generating output file...",
+                     "progress: 0 of 3",
+                     "status: Start converting...",
+                     "progress: 1 of 3",
+                     "progress: 2 of 3",
+                     "progress: 3 of 3",
+                     "status: Deleting duplication and merging items...",
+                     "progress: 3 of 6",
+                     "progress: 4 of 6",
+                     "progress: 5 of 6",
+                     "progress: 6 of 6",
+                     "status: Converting succeeded.",
+                     "finished",
+                 }));
     QCOMPARE(m_folder->read("out.csv"), QByteArray("who,number\nKim,1\nLee,2\nKim,1\n"));
 }
 
@@ -205,15 +208,17 @@ void TestConversionRun::saysWhatItDoesWithoutDataRows()
 {
     saveOneFormSetting(true);
     QVERIFY(run({write("a.csv", "no,name\n")}));
-    QCOMPARE(m_reporter.log, beginning + (QStringList{
-                                             "status: Generating output file...",
-                                             "progress: 0 of 0",
-                                             "status: Start converting...",
-                                             "status: Deleting duplication and merging items...",
-                                             "progress: 0 of 0",
-                                             "status: Converting succeeded.",
-                                             "finished",
-                                         }));
+    QCOMPARE(m_reporter.log,
+             beginning
+                 + (QStringList{
+                     "status: Generating output file...",
+                     "progress: 0 of 0",
+                     "status: Start converting...",
+                     "status: Deleting duplication and merging items...",
+                     "progress: 0 of 0",
+                     "status: Converting succeeded.",
+                     "finished",
+                 }));
     QCOMPARE(m_folder->read("out.csv"), QByteArray("who,number\n"));
 }
 
@@ -364,9 +369,11 @@ void TestConversionRun::unwritableOutput()
     QFile sameFile(m_folder->path(output));
     QVERIFY(!sameFile.open(QIODevice::WriteOnly | QIODevice::Text));
     QVERIFY(!runConversion({{orders}, m_folder->path(output), settingName}, m_reporter = {}));
-    QCOMPARE(m_reporter.log, beginning + (QStringList{"status: Generating output file...",
-                                                      "error: Cannot open output file:\n" +
-                                                          sameFile.errorString() + "."}));
+    QCOMPARE(
+        m_reporter.log,
+        beginning
+            + (QStringList{"status: Generating output file...",
+                           "error: Cannot open output file:\n" + sameFile.errorString() + "."}));
     QCOMPARE(m_folder->fileNames(), before);
 }
 
@@ -398,6 +405,18 @@ void TestConversionRun::fullDisk()
 }
 
 // --- files ------------------------------------------------------------------------------------
+
+// A share that goes away must not send the user looking for a wrong heading.
+void TestConversionRun::headingThatCannotBeReadIsNotAnotherHeading()
+{
+    const QString unreadable = "/proc/self/mem"; // opens, and cannot be read from its beginning
+    if (!QFileInfo::exists(unreadable))
+        QSKIP("no file here that opens and cannot be read");
+    saveOneFormSetting();
+    QVERIFY(!run({unreadable}));
+    QVERIFY2(m_reporter.log.last().startsWith("error: Cannot open input file:\n"),
+             qPrintable(m_reporter.log.last()));
+}
 
 void TestConversionRun::overwritesTheOutput()
 {
@@ -461,27 +480,28 @@ void TestConversionRun::settingsAreReadForEachRun()
 
 void TestConversionRun::damagedNumbersCrashNothing()
 {
-    write("quorinConverter.dat", "[SettingInfo]\n"
-                                 "cart\\input\\files\\size=2\n"
-                                 "cart\\input\\files\\1\\heads=no, name\n"
-                                 "cart\\input\\files\\1\\key=2147483647\n"
-                                 "cart\\input\\files\\2\\heads=no, item\n"
-                                 "cart\\input\\files\\2\\key=-2147483648\n"
-                                 "cart\\input\\files\\2\\targetKey=-7\n"
-                                 "cart\\output\\size=3\n"
-                                 "cart\\output\\1\\name=a\n"
-                                 "cart\\output\\1\\mapNums=2147483647, -2147483648, 1\n"
-                                 "cart\\output\\1\\mapSources=1, 1, 1, 1, 1\n"
-                                 "cart\\output\\1\\separator=-\n"
-                                 "cart\\output\\2\\name=b\n"
-                                 "cart\\output\\2\\mapNums=0\n"
-                                 "cart\\output\\2\\mapSources=1\n"
-                                 "cart\\output\\2\\conditions=x, y, z\n"
-                                 "cart\\output\\2\\condNums=-1, 99\n"
-                                 "cart\\output\\2\\condSources=1\n"
-                                 "cart\\output\\2\\condRules=equalTo()\n"
-                                 "cart\\output\\2\\condCombination=OR\n"
-                                 "cart\\output\\3\\distinct=YES\n");
+    write("quorinConverter.dat",
+          "[SettingInfo]\n"
+          "cart\\input\\files\\size=2\n"
+          "cart\\input\\files\\1\\heads=no, name\n"
+          "cart\\input\\files\\1\\key=2147483647\n"
+          "cart\\input\\files\\2\\heads=no, item\n"
+          "cart\\input\\files\\2\\key=-2147483648\n"
+          "cart\\input\\files\\2\\targetKey=-7\n"
+          "cart\\output\\size=3\n"
+          "cart\\output\\1\\name=a\n"
+          "cart\\output\\1\\mapNums=2147483647, -2147483648, 1\n"
+          "cart\\output\\1\\mapSources=1, 1, 1, 1, 1\n"
+          "cart\\output\\1\\separator=-\n"
+          "cart\\output\\2\\name=b\n"
+          "cart\\output\\2\\mapNums=0\n"
+          "cart\\output\\2\\mapSources=1\n"
+          "cart\\output\\2\\conditions=x, y, z\n"
+          "cart\\output\\2\\condNums=-1, 99\n"
+          "cart\\output\\2\\condSources=1\n"
+          "cart\\output\\2\\condRules=equalTo()\n"
+          "cart\\output\\2\\condCombination=OR\n"
+          "cart\\output\\3\\distinct=YES\n");
     QVERIFY(run({write("a.csv", "no,name\n1,Kim\n"), write("b.csv", "no,item\n2,pen\n")}));
     // Columns that are not there read as empty, so the two rows are partners; the third item has
     // neither name nor source.

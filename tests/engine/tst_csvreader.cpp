@@ -11,8 +11,7 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 const int readerBlockBytes = 256 * 1024;
 const int anyNumberOfRows = std::numeric_limits<int>::max();
@@ -624,9 +623,9 @@ void TestCsvReader::tenThousandColumns()
         headings.append("h" + QString::number(column));
         values.append(QString::number(column * 7));
     }
-    bytes = headings.join(',').toUtf8() + '\n' + QByteArray(9998, ',') + '\n' +
-            values.join("\",\"").toUtf8().prepend('"').append("\"\n") + QByteArray(10000, ',') +
-            '\n' + values.join(',').toUtf8();
+    bytes = headings.join(',').toUtf8() + '\n' + QByteArray(9998, ',') + '\n'
+        + values.join("\",\"").toUtf8().prepend('"').append("\"\n") + QByteArray(10000, ',') + '\n'
+        + values.join(',').toUtf8();
     const TextRows rows = readBytes(bytes);
     // The line with a comma less takes in the next one and is then too long.
     QCOMPARE(rows.rowCount(), 2);

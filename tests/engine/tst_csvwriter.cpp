@@ -11,8 +11,7 @@
 #include <QTextStream>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 using Rows = QList<QStringList>;
 

@@ -8,8 +8,7 @@
 #include <QtTest>
 #include <clocale>
 
-namespace
-{
+namespace {
 
 const QString doesNotMatch =
     "Input file dose not match with setting.\nPlease check the input file(s).";

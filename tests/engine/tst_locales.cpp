@@ -10,8 +10,7 @@
 #include <QtTest>
 #include <cstdio>
 
-namespace
-{
+namespace {
 
 const QString convertSwitch = "--convert";
 const QString settingName = "shop";
@@ -157,8 +156,9 @@ void TestLocalesOfShops::converts()
     const QByteArray errors = child.readAllStandardOutput();
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     if (output.isEmpty()) {
-        QCOMPARE(errors, QByteArray("Input file dose not match with setting.\n"
-                                    "Please check the input file(s)."));
+        QCOMPARE(errors,
+                 QByteArray("Input file dose not match with setting.\n"
+                            "Please check the input file(s)."));
         QCOMPARE(child.exitCode(), 1);
         return;
     }

@@ -8,8 +8,7 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 using Rows = QList<QStringList>;
 
@@ -472,8 +471,7 @@ void TestOutputRows::valuesCanBeReadInAnyOrder()
 
 // --- random settings --------------------------------------------------------------------------
 
-namespace
-{
+namespace {
 
 template <typename List> auto anyOf(const List &list, QRandomGenerator &random)
 {
@@ -643,8 +641,9 @@ void TestOutputRows::manyRows()
     QStringList expected;
     for (int key = 0; key < keys; ++key)
         expected.append(rowLine({QString::number(key), "3", "x/x/x"}));
-    QCOMPARE(outputLines(tableOf(rows), {distinct(columns({0})), merged(columns({1}), "NUMBER"),
-                                         merged(columns({2}), "STRING", "/")}),
+    QCOMPARE(outputLines(tableOf(rows),
+                         {distinct(columns({0})), merged(columns({1}), "NUMBER"),
+                          merged(columns({2}), "STRING", "/")}),
              expected);
 }
 

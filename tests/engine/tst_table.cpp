@@ -6,8 +6,7 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 using Rows = QList<QStringList>;
 
@@ -32,8 +31,8 @@ struct PlainTable {
 
     bool join(const Rows &file, int tableColumn, int fileColumn)
     {
-        if (rows.isEmpty() || tableColumn > rows.first().size() ||
-            fileColumn > file.value(0).size())
+        if (rows.isEmpty() || tableColumn > rows.first().size()
+            || fileColumn > file.value(0).size())
             return false;
         rows[0] += without(file.value(0), fileColumn);
         for (int r = 1; r < rows.size(); ++r) {
@@ -310,8 +309,9 @@ void TestTable::joinAfterAnUnjoinedRow()
              (QStringList{"|no|name|item|paid|", "|1|Kim|100|", "|2|Lee|pen|200|"}));
     // Column 2 of the first row is now the payment: it is what a third join compares.
     QVERIFY(table.join(TextRows(rowsOf("key,note 100,found pen,found-too")), 2, 0));
-    QCOMPARE(tableLines(table), (QStringList{"|no|name|item|paid|note|", "|1|Kim|100|found|",
-                                             "|2|Lee|pen|200|found-too|"}));
+    QCOMPARE(tableLines(table),
+             (QStringList{"|no|name|item|paid|note|", "|1|Kim|100|found|",
+                          "|2|Lee|pen|200|found-too|"}));
 }
 
 void TestTable::appendsBehindJoinedRows()

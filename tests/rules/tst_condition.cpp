@@ -418,7 +418,7 @@ QString randomCondition(QRandomGenerator &random)
                  randomBound(random));
     default:
         return pick(random, stringKeywords) + QLatin1Char('(')
-               + randomText(random, QStringLiteral("abab(),"), 3) + QLatin1Char(')');
+            + randomText(random, QStringLiteral("abab(),"), 3) + QLatin1Char(')');
     }
 }
 

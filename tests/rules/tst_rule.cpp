@@ -497,7 +497,7 @@ QString randomFind(QRandomGenerator &random)
         action +=
             QLatin1Char('(') + randomText(random, QStringLiteral("aby()"), 3) + QLatin1Char(')');
     const QString searched = randomText(random, QStringLiteral("aabb()"), 2)
-                             + (random.bounded(30) ? QString() : QStringLiteral(","));
+        + (random.bounded(30) ? QString() : QStringLiteral(","));
     return QStringLiteral("find(%1(%2),%3,%4)")
         .arg(pick(random, tests), searched, pick(random, scopes), action);
 }
@@ -521,12 +521,12 @@ QString randomRule(QRandomGenerator &random)
     case 2:
     case 3:
         return pick(random, numberRules) + QLatin1Char('(') + pick(random, numbers)
-               + (random.bounded(12) ? QStringLiteral(")") : QString());
+            + (random.bounded(12) ? QStringLiteral(")") : QString());
     case 4:
         return QStringLiteral("newLine(%1)").arg(pick(random, ways));
     case 5:
         return (random.bounded(2) ? QStringLiteral("prepend(") : QStringLiteral("append("))
-               + randomText(random, QStringLiteral("ab()\n, "), 4) + QLatin1Char(')');
+            + randomText(random, QStringLiteral("ab()\n, "), 4) + QLatin1Char(')');
     case 6:
         return QStringLiteral("charType(%1)").arg(pick(random, kinds));
     case 7:

@@ -12,8 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace
-{
+namespace {
 
 const int headingAndExamples = 3; // rows
 const int orderNumberColumn = 0;  // the first one in both of the joined files

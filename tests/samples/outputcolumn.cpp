@@ -1,7 +1,6 @@
 #include "tests/samples/outputcolumn.h"
 
-namespace
-{
+namespace {
 
 // What the company fields are called where the user drags them from.
 const char *const companyLabels[CompanyInfo::FieldCount] = {

@@ -13,8 +13,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace
-{
+namespace {
 
 const QString settingsFile = QStringLiteral("quorinConverter.dat");
 

@@ -501,8 +501,9 @@ void TestSettings::storedTextIsRead()
 {
     QFETCH(QByteArray, stored);
     QFETCH(QString, text);
-    m_folder->write(settingsFile, "[SettingInfo]\nA\\output\\size=1\nA\\output\\1\\name=" + stored
-                                      + "\n[CompanyInfo]\ntel=" + stored + "\n");
+    m_folder->write(settingsFile,
+                    "[SettingInfo]\nA\\output\\size=1\nA\\output\\1\\name=" + stored
+                        + "\n[CompanyInfo]\ntel=" + stored + "\n");
     QCOMPARE(loadOutputItems(settingName).value(0).name, text);
     QCOMPARE(companyValue(CompanyInfo::Tel), text);
     QCOMPARE(loadCompanyInfo().value(CompanyInfo::Tel), text);
@@ -527,10 +528,10 @@ void TestSettings::storedListIsRead()
 {
     QFETCH(QByteArray, stored);
     QFETCH(QStringList, list);
-    m_folder->write(settingsFile, "[SettingInfo]\nA\\input\\heads=" + stored
-                                      + "\nA\\input\\ex1=" + stored + "\nA\\input\\ex2=" + stored
-                                      + "\nA\\output\\size=1\nA\\output\\1\\rules=" + stored
-                                      + "\n");
+    m_folder->write(settingsFile,
+                    "[SettingInfo]\nA\\input\\heads=" + stored + "\nA\\input\\ex1=" + stored
+                        + "\nA\\input\\ex2=" + stored
+                        + "\nA\\output\\size=1\nA\\output\\1\\rules=" + stored + "\n");
     const InputSetting input = loadInputSetting(settingName);
     QCOMPARE(input.heads, list);
     QCOMPARE(input.ex1, list);
@@ -617,14 +618,17 @@ void TestSettings::emptySecondExampleIsNoRow()
 
 void TestSettings::numbersThatAreNoneReadAsZero()
 {
-    m_folder->write(settingsFile, "[SettingInfo]\nA\\output\\size=1\n"
-                                  "A\\output\\1\\mapNums=3, x\n"
-                                  "A\\output\\1\\mapSources=1, \n"
-                                  "A\\output\\1\\condNums=-7, 1.5, 99999999999\n"
-                                  "A\\output\\1\\condSources=x\n"
-                                  "A\\input\\files\\size=1\n"
-                                  "A\\input\\files\\1\\key=x\n"
-                                  "A\\input\\files\\1\\targetKey=-12\n");
+    m_folder->write(settingsFile,
+                    "[SettingInfo]\nA\\output\\size=1\n"
+                    "A\\output\\1\\mapNums=3, x\n"
+                    "A\\output\\1\\mapSources=1, \n"
+                    "A\\output\\1\\condNums=-7, 1.5, 99999999999\n"
+                    "A\\output\\1\\condSources=x\n"
+                    "A\\input\\files\\size=2\n"
+                    "A\\input\\files\\1\\key=x\n"
+                    "A\\input\\files\\1\\targetKey=-12\n"
+                    "A\\input\\files\\2\\key=4294967297\n"
+                    "A\\input\\files\\2\\targetKey=-3000000000\n");
     const OutputItem item = loadOutputItems(settingName).value(0);
     QCOMPARE(item.mapNums, (QList<int>{3, 0}));
     QCOMPARE(item.mapSources, (QList<int>{1, 0}));
@@ -633,6 +637,9 @@ void TestSettings::numbersThatAreNoneReadAsZero()
     const InputForm form = loadInputSetting(settingName).files.value(0);
     QCOMPARE(form.key, 0);
     QCOMPARE(form.targetKey, -12);
+    const InputForm beyond32Bits = loadInputSetting(settingName).files.value(1);
+    QCOMPARE(beyond32Bits.key, 0);
+    QCOMPARE(beyond32Bits.targetKey, 0);
 }
 
 void TestSettings::shrunkSettingKeepsTheOldEntry()
@@ -666,8 +673,9 @@ void TestSettings::shrunkSettingKeepsTheOldEntry()
 
 void TestSettings::savingKeepsForeignKeys()
 {
-    m_folder->write(settingsFile, "[SettingInfo]\nA\\PdfSetting\\generate=true\n"
-                                  "A\\Name\\separator=x\n[Other]\nkey=value\n");
+    m_folder->write(settingsFile,
+                    "[SettingInfo]\nA\\PdfSetting\\generate=true\n"
+                    "A\\Name\\separator=x\n[Other]\nkey=value\n");
     saveInputSetting(settingName, inputWithEveryFieldDifferent());
     saveOutputItems(settingName, {itemWithEveryFieldDifferent(1)});
     saveCompanyInfo(companyWithEveryFieldDifferent());
@@ -717,8 +725,9 @@ void TestSettings::changeIsSeenWithoutRestart()
 {
     saveOutputItems(settingName, {itemWithEveryFieldDifferent(1)});
     QCOMPARE(loadOutputItems(settingName).size(), 1);
-    m_folder->write(settingsFile, "[SettingInfo]\nB\\output\\size=2\n"
-                                  "B\\output\\2\\name=written by another program\n");
+    m_folder->write(settingsFile,
+                    "[SettingInfo]\nB\\output\\size=2\n"
+                    "B\\output\\2\\name=written by another program\n");
     QCOMPARE(settingNames(), QStringList(QStringLiteral("B")));
     QCOMPARE(loadOutputItems(settingName).size(), 0);
     QCOMPARE(itemNames(loadOutputItems(QStringLiteral("B"))),
@@ -762,9 +771,10 @@ void TestSettings::companyValueByNumber()
 {
     QFETCH(int, number);
     QFETCH(QString, text);
-    m_folder->write(settingsFile, "[CompanyInfo]\nname=company name\nstoreName=store name\n"
-                                  "storeSite=store site\npostCode=post code\naddress=address\n"
-                                  "tel=tel\nfax=fax\nemail=email\nphone=no such field\n");
+    m_folder->write(settingsFile,
+                    "[CompanyInfo]\nname=company name\nstoreName=store name\n"
+                    "storeSite=store site\npostCode=post code\naddress=address\n"
+                    "tel=tel\nfax=fax\nemail=email\nphone=no such field\n");
     QCOMPARE(companyValue(number), text);
     QCOMPARE(loadCompanyInfo().value(number), text);
 }
@@ -967,9 +977,8 @@ void TestSettings::damagedFileIsRead_data()
     QTest::newRow("size exceeds the entries")
         << begin + "A\\output\\size=3\nA\\output\\1\\name=a\nA\\input\\files\\size=2\n"
         << onlyA << 2 << 3;
-    QTest::newRow("byte-order mark before the section")
-        << QByteArray("\xEF\xBB\xBF") + begin + "A\\output\\size=1\n"
-        << onlyA << 0 << 1;
+    QTest::newRow("byte-order mark before the section") << QByteArray("\xEF\xBB\xBF") + begin
+            + "A\\output\\size=1\n" << onlyA << 0 << 1;
     QTest::newRow("carriage returns")
         << QByteArray("[SettingInfo]\r\nA\\output\\size=1\r\nA\\input\\files\\size=2\r\n") << onlyA
         << 2 << 1;
@@ -996,9 +1005,9 @@ void TestSettings::damagedFileNeitherCrashesNorHangs_data()
     const QByteArray begin("[SettingInfo]\n");
     const auto everywhere = [&begin](const QByteArray &value) {
         return begin + "A\\input\\heads=" + value
-               + "\nA\\input\\files\\size=1\nA\\input\\files\\1\\key=" + value
-               + "\nA\\input\\files\\1\\name=" + value + "\nA\\output\\size=1\n"
-               + "A\\output\\1\\mapNums=" + value + "\n[CompanyInfo]\nname=" + value + "\n";
+            + "\nA\\input\\files\\size=1\nA\\input\\files\\1\\key=" + value
+            + "\nA\\input\\files\\1\\name=" + value + "\nA\\output\\size=1\n"
+            + "A\\output\\1\\mapNums=" + value + "\n[CompanyInfo]\nname=" + value + "\n";
     };
     QByteArray allBytes;
     for (int i = 0; i < 256 * 40; ++i)
