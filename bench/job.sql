@@ -2,7 +2,8 @@
 -- rows with the same order number are one row at the place of the first, its items in file order.
 .import --csv orders.csv orders
 .import --csv items.csv items
-create index items_by_order on items("주문번호");
+-- Without this index sqlite3 makes one of its own for the join; with it, it is a little faster.
+--indexed create index items_by_order on items("주문번호");
 .mode list
 .headers off
 .output sqlite3.csv

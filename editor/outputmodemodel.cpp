@@ -165,7 +165,7 @@ Qt::ItemFlags OutputModeModel::flags(const QModelIndex &index) const
 bool OutputModeModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
     OutputItem changed = item(index.column());
-    if (index.row() == NameRow && role != Qt::CheckStateRole)
+    if (index.row() == NameRow && (role == Qt::EditRole || role == Qt::DisplayRole))
         changed.name = value.toString();
     else if (index.row() == RulesRow && role == Qt::EditRole)
         changed.rules = value.toStringList();
