@@ -10,7 +10,7 @@
 namespace {
 
 // In code units. Encoding and writing cost much less in large pieces.
-const size_t blockUnits = 32 * 1024;
+const size_t blockUnits = 32768;
 
 } // namespace
 

@@ -14,7 +14,7 @@ QByteArray localeCodePageName()
 #ifdef Q_OS_WIN
     return QByteArray();
 #else
-    const QByteArray name = nl_langinfo(CODESET);
+    QByteArray name = nl_langinfo(CODESET);
     if (name == "ANSI_X3.4-1968" || name == "US-ASCII" || name == "646")
         return QByteArrayLiteral("UTF-8"); // the C locale says nothing about the user's files
     if (name == "UHC" || name == "MS949")

@@ -81,7 +81,7 @@ void changeCase(bool toUpper, WorkingText &value)
             [&](TextBuffer &out) { out.append(toUpper ? whole.toUpper() : whole.toLower()); });
         return;
     }
-    const ushort first = toUpper ? 'a' : 'A';
+    const char16_t first = toUpper ? u'a' : u'A';
     value.rebuild([&](TextBuffer &out) {
         out.append(text);
         for (char16_t &unit : out)
