@@ -79,7 +79,7 @@ public:
 
 private:
     static constexpr quint32 noRow = 0xFFFFFFFF;
-    static constexpr size_t greatestRowCount = 200000000;
+    static constexpr size_t greatestRowCount = 100000000;
 
     // What one file, or several files of the same form, adds to a row.
     struct Part {
