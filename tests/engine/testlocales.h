@@ -42,6 +42,16 @@ private:
     QStringList m_missing;
 };
 
+/// Begins a test program: the machine's language must not matter (the C locale counts as UTF-8), and
+/// what cannot be tested here is said.
+inline void startInTheCLocale(const TestLocales &locales)
+{
+    setlocale(LC_ALL, "C");
+    if (!locales.missing().isEmpty())
+        qWarning("Not tested, these locales cannot be made here: %s",
+                 qPrintable(locales.missing().join(", ")));
+}
+
 /// Makes a locale's code page that of this process, as long as the object lives; "C" otherwise.
 class CodePageScope
 {

@@ -164,11 +164,7 @@ private:
 
 void TestCsvWriter::initTestCase()
 {
-    // The C locale counts as UTF-8; the language of the machine must not matter.
-    setlocale(LC_ALL, "C");
-    if (!m_locales.missing().isEmpty())
-        qWarning("Not tested, these locales cannot be made here: %s",
-                 qPrintable(m_locales.missing().join(", ")));
+    startInTheCLocale(m_locales);
 }
 
 void TestCsvWriter::writesRow_data()
