@@ -292,7 +292,7 @@ QList<int> OutputModeModel::mergeColumns() const
 {
     QList<int> columns;
     for (int column = 0; column < m_items.size(); ++column) {
-        if (m_items.at(column).mergesTexts() || m_items.at(column).mergesNumbers())
+        if (m_items.at(column).merges())
             columns.append(column);
     }
     return columns;

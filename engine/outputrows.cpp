@@ -26,7 +26,7 @@ OutputRows::OutputRows(const Table &table, const QList<OutputItem> &items,
         const OutputItem &item = items.at(i);
         m_mergeItems.push_back(
             {item.mergesNumbers(), item.mergeSeparator, RuleList(item.afterRules), 0});
-        if (item.mergesNumbers() || item.mergesTexts())
+        if (item.merges())
             m_mergingItems.push_back(i);
     }
 }

@@ -45,6 +45,7 @@ struct OutputItem {
     bool isDistinct() const { return distinct == QLatin1String("YES"); }
     bool mergesTexts() const { return merge == QLatin1String("STRING"); }
     bool mergesNumbers() const { return merge == QLatin1String("NUMBER"); }
+    bool merges() const { return mergesTexts() || mergesNumbers(); }
 };
 
 /// Reads the output items of the named setting in their order. What is absent reads as empty, an
