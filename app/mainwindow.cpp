@@ -4,6 +4,7 @@
 #include "app/weblinks.h"
 #include "engine/conversionrun.h"
 #include "settings/convertsettings.h"
+#include "statement/statementpdf.h"
 #include "ui_mainwindow.h"
 
 #include <QCloseEvent>
@@ -224,7 +225,7 @@ void MainWindow::convert_file()
     bool succeeded = false;
     {
         const WaitCursor waitCursor;
-        succeeded = runConversion(request, *this);
+        succeeded = runConversion(request, *this, generateStatementPdf);
     }
     if (succeeded)
         return;
@@ -260,6 +261,13 @@ void MainWindow::progress(int value, int maximum)
     m_progressBar->setRange(0, qMax(1, maximum));
     m_progressBar->setValue(maximum == 0 ? 1 : value);
     m_progressBar->show();
+}
+
+void MainWindow::statementFinished(const QString &pdfFile)
+{
+    m_statementFile = pdfFile;
+    ui->printButton->setEnabled(true);
+    ui->action_print->setEnabled(true);
 }
 
 void MainWindow::finished()

@@ -60,6 +60,7 @@ private:
     void status(const QString &text) override;
     void error(const QString &text) override;
     void progress(int value, int maximum) override;
+    void statementFinished(const QString &pdfFile) override;
     void finished() override;
 
     const std::unique_ptr<Ui::MainWindow> ui;

@@ -21,6 +21,7 @@ struct Reporter : RunReporter {
     void status(const QString &) override {}
     void error(const QString &text) override { QTextStream(stderr) << text << '\n'; }
     void progress(int, int) override {}
+    void statementFinished(const QString &) override {}
     void finished() override {}
 };
 

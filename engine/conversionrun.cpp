@@ -5,11 +5,14 @@
 #include "engine/outputrows.h"
 #include "engine/runreporter.h"
 #include "engine/runtexts.h"
+#include "engine/statementrecords.h"
 #include "engine/stepprogress.h"
 #include "engine/table.h"
 #include "settings/companyinfo.h"
 #include "settings/inputsetting.h"
 #include "settings/outputitem.h"
+#include "statement/statementsetting.h"
+#include "statement/statementtexts.h"
 
 #include <QFile>
 #include <new>
@@ -56,17 +59,72 @@ void writeRows(OutputRows &rows, CsvWriter &writer, StepProgress &progress)
     }
 }
 
-bool writeOutput(const ConversionRequest &request, const Table &table, RunReporter &reporter)
+/// The statement stands beside the output file.
+QString statementFile(const QString &outputFile)
+{
+    return QString(outputFile).replace(QLatin1String(".csv"), QLatin1String(".pdf"));
+}
+
+class StatementSteps : public StatementProgress
+{
+public:
+    StatementSteps(StepProgress &progress, RunReporter &reporter)
+        : m_progress(progress), m_reporter(reporter)
+    {
+    }
+    void pagePainted() override { m_progress.advance(); }
+    void saving() override { m_reporter.status(RunTexts::savingPdf()); }
+
+private:
+    StepProgress &m_progress;
+    RunReporter &m_reporter;
+};
+
+void makeStatement(const StatementDocument &document, const QString &outputFile,
+                   StatementGenerator generator, StepProgress &progress, RunReporter &reporter)
+{
+    const QString pdfFile = statementFile(outputFile);
+    StatementSteps steps(progress, reporter);
+    // The statements of an earlier run must not pass for those of this one.
+    if (!generator(document, pdfFile, steps) && pdfFile != outputFile)
+        QFile::remove(pdfFile);
+    progress.finish();
+    reporter.statementFinished(pdfFile);
+}
+
+/// What a run reads from the settings file, apart from its input forms.
+struct OutputSetting {
+    QList<OutputItem> items;
+    StatementSetting statement;
+    CompanyInfo company;
+};
+
+StatementDocument statementDocument(const OutputSetting &setting, const Table &table,
+                                    const OutputRows &rows)
+{
+    const StatementSetting &statement = setting.statement;
+    return {statement.title,
+            statement.ment,
+            statement.comment,
+            statement.font,
+            companyText(setting.company, statement.printCompany),
+            buildStatementRecords(statement, table, rows)};
+}
+
+bool writeOutput(const ConversionRequest &request, const Table &table, RunReporter &reporter,
+                 StatementGenerator generator)
 {
     reporter.status(RunTexts::generatingOutput());
-    const QList<OutputItem> items = loadOutputItems(request.settingName);
+    const OutputSetting setting = {loadOutputItems(request.settingName),
+                                   loadStatementSetting(request.settingName), loadCompanyInfo()};
+    const bool makesStatement = setting.statement.generate && generator != nullptr;
 
     QFile file(request.outputFile);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return fail(reporter, RunTexts::cannotOpenOutput().arg(file.errorString()));
     CsvWriter writer(file);
     QStringList headings;
-    for (const OutputItem &item : items)
+    for (const OutputItem &item : setting.items)
         headings.append(item.name);
     writer.writeHeading(headings);
 
@@ -74,7 +132,7 @@ bool writeOutput(const ConversionRequest &request, const Table &table, RunReport
     StepProgress progress(reporter);
     progress.setMaximum(dataRows);
     reporter.status(RunTexts::startConverting());
-    OutputRows rows(table, items, loadCompanyInfo());
+    OutputRows rows(table, setting.items, setting.company);
     for (int row = 0; row < dataRows; ++row) {
         rows.appendNext();
         progress.advance();
@@ -82,29 +140,37 @@ bool writeOutput(const ConversionRequest &request, const Table &table, RunReport
 
     reporter.status(RunTexts::deletingDuplicates());
     rows.removeDuplicatesAndMerge();
-    progress.setMaximum(dataRows + rows.count());
+    progress.setMaximum(dataRows + (makesStatement ? 2 * rows.count() + 1 : rows.count()));
     writeRows(rows, writer, progress);
 
     if (!writer.flush() || !file.flush())
         return fail(reporter, RunTexts::cannotWriteOutput().arg(file.errorString()));
+    file.close(); // the statement may take this very file's place
+
+    if (makesStatement) {
+        reporter.status(RunTexts::creatingPdf());
+        makeStatement(statementDocument(setting, table, rows), request.outputFile, generator,
+                      progress, reporter);
+    }
     return true;
 }
 
-bool convert(const ConversionRequest &request, RunReporter &reporter)
+bool convert(const ConversionRequest &request, RunReporter &reporter, StatementGenerator generator)
 {
     reporter.status(RunTexts::checkingFields());
     if (!checkFields(request, reporter))
         return false;
     Table table;
-    return loadTable(request, table, reporter) && writeOutput(request, table, reporter);
+    return loadTable(request, table, reporter) && writeOutput(request, table, reporter, generator);
 }
 
 } // namespace
 
-bool runConversion(const ConversionRequest &request, RunReporter &reporter)
+bool runConversion(const ConversionRequest &request, RunReporter &reporter,
+                   StatementGenerator generator)
 {
     try {
-        if (!convert(request, reporter))
+        if (!convert(request, reporter, generator))
             return false;
     } catch (const std::bad_alloc &) {
         return fail(reporter, RunTexts::notEnoughMemory());

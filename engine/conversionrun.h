@@ -1,6 +1,8 @@
 // One whole conversion, from the input files to the output file.
 #pragma once
 
+#include "statement/statementdocument.h"
+
 #include <QStringList>
 
 struct RunReporter;
@@ -13,5 +15,8 @@ struct ConversionRequest {
 };
 
 /// Converts, synchronously. Returns whether the output file was written whole; every failure has
-/// then been reported once through `reporter`.
-bool runConversion(const ConversionRequest &request, RunReporter &reporter);
+/// then been reported once through `reporter`. When the setting asks for statements, `generator`
+/// makes them beside the output file; that it could not is no failure. Without a generator there
+/// are none.
+bool runConversion(const ConversionRequest &request, RunReporter &reporter,
+                   StatementGenerator generator = nullptr);

@@ -18,6 +18,8 @@ QString RunTexts::processingInput()     { return text(QT_TRANSLATE_NOOP("Convers
 QString RunTexts::generatingOutput()    { return text(QT_TRANSLATE_NOOP("ConversionRun", "Generating output file...")); }
 QString RunTexts::startConverting()     { return text(QT_TRANSLATE_NOOP("ConversionRun", "Start converting...")); }
 QString RunTexts::deletingDuplicates()  { return text(QT_TRANSLATE_NOOP("ConversionRun", "Deleting duplication and merging items...")); }
+QString RunTexts::creatingPdf()         { return text(QT_TRANSLATE_NOOP("ConversionRun", "Creating PDF file...")); }
+QString RunTexts::savingPdf()           { return text(QT_TRANSLATE_NOOP("ConversionRun", "Saving PDF file...")); }
 QString RunTexts::succeeded()           { return text(QT_TRANSLATE_NOOP("ConversionRun", "Converting succeeded.")); }
 
 QString RunTexts::inputRequired()       { return text(QT_TRANSLATE_NOOP("ConversionRun", "Input file is required.")); }

@@ -11,6 +11,8 @@ QString processingInput();
 QString generatingOutput();
 QString startConverting();
 QString deletingDuplicates();
+QString creatingPdf();
+QString savingPdf();
 QString succeeded();
 
 QString inputRequired();

@@ -23,6 +23,14 @@ public:
             report();
     }
 
+    /// Takes all steps that are left.
+    void finish()
+    {
+        m_value = m_maximum;
+        if (m_reported != m_value)
+            report();
+    }
+
 private:
     void report()
     {

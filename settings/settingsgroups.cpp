@@ -17,6 +17,19 @@ int beginBoundedReadArray(QSettings &settings, const QString &array)
     return qBound(0, size, greatestArraySize);
 }
 
+bool readBool(const QSettings &settings, const QString &key, bool defaultValue)
+{
+    const QString text = settings.value(key).toString();
+    const auto is = [&text](const char *word) {
+        return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+    };
+    if (is("true") || is("1"))
+        return true;
+    if (is("false") || is("0"))
+        return false;
+    return defaultValue;
+}
+
 QStringList numbersToTexts(const QList<int> &numbers)
 {
     QStringList texts;

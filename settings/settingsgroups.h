@@ -40,6 +40,9 @@ QString settingInfoGroup();
 /// may be anything, is bounded by a hundred thousand, so that no caller loops without end.
 int beginBoundedReadArray(QSettings &settings, const QString &array);
 
+/// A flag; what is absent, or neither true nor false, is the default.
+bool readBool(const QSettings &settings, const QString &key, bool defaultValue);
+
 /// Numbers as the file keeps them: a list of decimal texts.
 QStringList numbersToTexts(const QList<int> &numbers);
 

@@ -22,6 +22,7 @@ struct RecordingReporter : RunReporter {
         progresses.append(QPair<int, int>(value, maximum));
         log.append(QStringLiteral("progress: %1 of %2").arg(value).arg(maximum));
     }
+    void statementFinished(const QString &pdfFile) override { log.append("statement: " + pdfFile); }
     void finished() override { log.append("finished"); }
 
     QStringList log;

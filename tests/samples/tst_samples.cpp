@@ -37,6 +37,7 @@ struct Reporter : RunReporter {
     void status(const QString &) override {}
     void error(const QString &text) override { errors.append(text); }
     void progress(int, int) override {}
+    void statementFinished(const QString &) override {}
     void finished() override {}
 
     QStringList errors;

@@ -1,0 +1,187 @@
+#include "statement/statementpdf.h"
+
+#include "statement/pagegeometry.h"
+#include "statement/statementfont.h"
+#include "statement/statementhtml.h"
+#include "statement/statementtexts.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QPrinter>
+#include <QSaveFile>
+#include <QTemporaryFile>
+#include <QTextDocument>
+
+namespace {
+
+const int titlePixels = 28;
+const int textPixels = 12;
+const int commentPixels = 10;
+
+/// A document that shows what stands in it and fetches nothing, neither files nor addresses.
+class ClosedDocument : public QTextDocument
+{
+protected:
+    QVariant loadResource(int, const QUrl &) override { return QVariant(); }
+};
+
+PageGeometry geometryOf(const QPrinter &printer)
+{
+    const QPageLayout layout = printer.pageLayout();
+    const QSize page = layout.paintRectPixels(PageGeometry::resolution).size();
+    return PageGeometry(page.width(), page.height(),
+                        layout.fullRectPixels(PageGeometry::resolution).height());
+}
+
+/// Paints page after page; what all pages share is made ready once.
+class PagePainter
+{
+public:
+    PagePainter(const StatementDocument &statement, const PageGeometry &page, QPainter &painter)
+        : m_statement(statement), m_printed(statement.data.printed()), m_page(page),
+          m_painter(painter), m_html(m_printed),
+          m_family(prepareStatementFont(statement.fontFamily, QLocale::system().language()))
+    {
+        QFont font(m_family);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        m_order.setDefaultFont(font);
+        m_order.setDefaultStyleSheet(StatementHtml::styleSheet(m_family));
+        m_order.setUndoRedoEnabled(false);
+        // Letters stand where the paper wants them, not where a screen's dots would be.
+        m_order.setUseDesignMetrics(true);
+    }
+
+    void paint(const StatementRecord &record)
+    {
+        drawLines();
+        drawText(m_page.titleBox(), Qt::AlignCenter, titlePixels, m_statement.title);
+        drawText(m_page.companyBox(), Qt::TextWordWrap, textPixels, m_statement.companyText);
+        drawText(m_page.customerBox(), Qt::TextWordWrap, textPixels,
+                 customerText(record, m_printed));
+        drawText(m_page.messageBox(), Qt::TextWordWrap | Qt::AlignBottom, textPixels,
+                 m_statement.message);
+        drawOrder(record);
+        drawText(m_page.commentBox(), Qt::TextWordWrap | Qt::AlignCenter, commentPixels,
+                 m_statement.comment);
+    }
+
+private:
+    void drawLines()
+    {
+        const int right = m_page.width() - 1;
+        const auto drawAcross = [&](int y) { m_painter.drawLine(0, y, right, y); };
+        m_painter.setPen(QPen(Qt::black, 0.5));
+        m_painter.drawRect(0, 0, right, m_page.height() - 1);
+        drawAcross(PageGeometry::titleLine);
+        drawAcross(m_page.footerLine());
+        m_painter.setPen(QPen(Qt::black, 1, Qt::DashDotLine));
+        drawAcross(m_page.cuttingLine());
+    }
+
+    void drawText(const QRect &box, int flags, int pixels, const QString &text)
+    {
+        QFont font(m_family);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        font.setPixelSize(pixels);
+        font.setWeight(pixels == titlePixels ? QFont::Bold : QFont::Normal);
+        m_painter.setFont(font);
+        m_painter.drawText(box, flags, text);
+    }
+
+    void drawOrder(const StatementRecord &record)
+    {
+        const QRect box = m_page.orderBox();
+        m_order.setHtml(m_html.html(record));
+        m_order.setTextWidth(box.width());
+        QAbstractTextDocumentLayout::PaintContext context;
+        // The desktop may be a dark one, paper is not.
+        context.palette.setColor(QPalette::Text, Qt::black);
+        context.clip = QRectF(QPointF(), box.size());
+        m_painter.save();
+        m_painter.translate(box.topLeft());
+        m_painter.setClipRect(context.clip);
+        m_order.documentLayout()->draw(&m_painter, context);
+        m_painter.restore();
+    }
+
+    const StatementDocument &m_statement;
+    const StatementFlags &m_printed;
+    const PageGeometry m_page;
+    QPainter &m_painter;
+    const StatementHtml m_html;
+    const QString m_family;
+    ClosedDocument m_order;
+};
+
+/// Paints all pages into the file; false when it cannot be opened.
+bool paintPages(const StatementDocument &statement, const QString &fileName,
+                StatementProgress &progress)
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(fileName);
+    printer.setResolution(PageGeometry::resolution);
+    const qreal margin = PageGeometry::margin;
+    printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                      QMarginsF(margin, margin, margin, margin)));
+    printer.setDocName(statement.title);
+    printer.setCreator(QCoreApplication::applicationName());
+
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
+    PagePainter pages(statement, geometryOf(printer), painter);
+    for (int i = 0; i < statement.data.count(); ++i) {
+        if (i > 0)
+            printer.newPage();
+        pages.paint(statement.data.record(i));
+        progress.pagePainted();
+    }
+    progress.saving();
+    return painter.end();
+}
+
+/// The printer does not say when it could not write. Its file ends with the place where its table
+/// of contents begins; with a single byte missing, there is something else at that place.
+bool isWholePdf(QFile &file)
+{
+    const int tailSize = 64;
+    if (!file.seek(qMax<qint64>(0, file.size() - tailSize)))
+        return false;
+    const QByteArray tail = file.readAll();
+    const QByteArray keyword = "startxref\n";
+    const int start = tail.lastIndexOf(keyword);
+    if (start < 0 || !tail.endsWith("%%EOF\n"))
+        return false;
+    const int number = start + keyword.size();
+    const qint64 table = tail.mid(number, tail.indexOf('\n', number) - number).toLongLong();
+    return file.seek(table) && file.read(4) == "xref";
+}
+
+bool copyTo(QFile &from, const QString &fileName)
+{
+    QSaveFile to(fileName);
+    to.setDirectWriteFallback(true); // a folder may let files be changed but not made
+    if (!from.seek(0) || !to.open(QIODevice::WriteOnly))
+        return false;
+    const qint64 blockSize = 1 << 20;
+    while (!from.atEnd()) {
+        const QByteArray block = from.read(blockSize);
+        if (block.isEmpty() || to.write(block) != block.size())
+            return false;
+    }
+    return to.commit();
+}
+
+} // namespace
+
+bool generateStatementPdf(const StatementDocument &document, const QString &fileName,
+                          StatementProgress &progress)
+{
+    // Painted elsewhere first: a full disk must not leave half of a file.
+    QTemporaryFile painted;
+    if (!painted.open())
+        return false;
+    return paintPages(document, painted.fileName(), progress) && isWholePdf(painted)
+        && copyTo(painted, fileName);
+}
