@@ -33,6 +33,17 @@ PageGeometry geometryOf(const QPrinter &printer)
                         layout.fullRectPixels(PageGeometry::resolution).height());
 }
 
+QFont paperFont(const QString &family)
+{
+    QFont font(family);
+    // Hinting moves letters to the dots of a screen.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    // Shaping gives digits and hyphens the form that they have in another language, and the PDF
+    // would not know which characters these are: nobody could search for an order number.
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    return font;
+}
+
 /// Paints page after page; what all pages share is made ready once.
 class PagePainter
 {
@@ -42,9 +53,7 @@ public:
           m_painter(painter), m_html(m_printed),
           m_family(prepareStatementFont(statement.fontFamily, QLocale::system().language()))
     {
-        QFont font(m_family);
-        font.setHintingPreference(QFont::PreferNoHinting);
-        m_order.setDefaultFont(font);
+        m_order.setDefaultFont(paperFont(m_family));
         m_order.setDefaultStyleSheet(StatementHtml::styleSheet(m_family));
         m_order.setUndoRedoEnabled(false);
         // Letters stand where the paper wants them, not where a screen's dots would be.
@@ -80,8 +89,7 @@ private:
 
     void drawText(const QRect &box, int flags, int pixels, const QString &text)
     {
-        QFont font(m_family);
-        font.setHintingPreference(QFont::PreferNoHinting);
+        QFont font = paperFont(m_family);
         font.setPixelSize(pixels);
         font.setWeight(pixels == titlePixels ? QFont::Bold : QFont::Normal);
         m_painter.setFont(font);
