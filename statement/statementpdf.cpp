@@ -1,5 +1,6 @@
 #include "statement/statementpdf.h"
 
+#include "statement/composedtext.h"
 #include "statement/pagegeometry.h"
 #include "statement/statementfont.h"
 #include "statement/statementhtml.h"
@@ -33,9 +34,11 @@ PageGeometry geometryOf(const QPrinter &printer)
                         layout.fullRectPixels(PageGeometry::resolution).height());
 }
 
-QFont paperFont(const QString &family)
+QFont paperFont(const QString &family, int pixels, QFont::Weight weight = QFont::Normal)
 {
     QFont font(family);
+    font.setPixelSize(pixels);
+    font.setWeight(weight);
     // Hinting moves letters to the dots of a screen.
     font.setHintingPreference(QFont::PreferNoHinting);
     // Shaping gives digits and hyphens the form that they have in another language, and the PDF
@@ -50,11 +53,15 @@ class PagePainter
 public:
     PagePainter(const StatementDocument &statement, const PageGeometry &page, QPainter &painter)
         : m_statement(statement), m_printed(statement.data.printed()), m_page(page),
-          m_painter(painter), m_html(m_printed),
-          m_family(prepareStatementFont(statement.fontFamily, QLocale::system().language()))
+          m_painter(painter), m_html(m_printed)
     {
-        m_order.setDefaultFont(paperFont(m_family));
-        m_order.setDefaultStyleSheet(StatementHtml::styleSheet(m_family));
+        const QString family =
+            prepareStatementFont(statement.fontFamily, QLocale::system().language());
+        m_titleFont = paperFont(family, titlePixels, QFont::Bold);
+        m_textFont = paperFont(family, textPixels);
+        m_commentFont = paperFont(family, commentPixels);
+        m_order.setDefaultFont(m_textFont);
+        m_order.setDefaultStyleSheet(StatementHtml::styleSheet(family));
         m_order.setUndoRedoEnabled(false);
         // Letters stand where the paper wants them, not where a screen's dots would be.
         m_order.setUseDesignMetrics(true);
@@ -63,14 +70,14 @@ public:
     void paint(const StatementRecord &record)
     {
         drawLines();
-        drawText(m_page.titleBox(), Qt::AlignCenter, titlePixels, m_statement.title);
-        drawText(m_page.companyBox(), Qt::TextWordWrap, textPixels, m_statement.companyText);
-        drawText(m_page.customerBox(), Qt::TextWordWrap, textPixels,
+        drawText(m_page.titleBox(), Qt::AlignCenter, m_titleFont, m_statement.title);
+        drawText(m_page.companyBox(), Qt::TextWordWrap, m_textFont, m_statement.companyText);
+        drawText(m_page.customerBox(), Qt::TextWordWrap, m_textFont,
                  customerText(record, m_printed));
-        drawText(m_page.messageBox(), Qt::TextWordWrap | Qt::AlignBottom, textPixels,
+        drawText(m_page.messageBox(), Qt::TextWordWrap | Qt::AlignBottom, m_textFont,
                  m_statement.message);
         drawOrder(record);
-        drawText(m_page.commentBox(), Qt::TextWordWrap | Qt::AlignCenter, commentPixels,
+        drawText(m_page.commentBox(), Qt::TextWordWrap | Qt::AlignCenter, m_commentFont,
                  m_statement.comment);
     }
 
@@ -87,19 +94,16 @@ private:
         drawAcross(m_page.cuttingLine());
     }
 
-    void drawText(const QRect &box, int flags, int pixels, const QString &text)
+    void drawText(const QRect &box, int flags, const QFont &font, const QString &text)
     {
-        QFont font = paperFont(m_family);
-        font.setPixelSize(pixels);
-        font.setWeight(pixels == titlePixels ? QFont::Bold : QFont::Normal);
         m_painter.setFont(font);
-        m_painter.drawText(box, flags, text);
+        m_painter.drawText(box, flags, composed(text));
     }
 
     void drawOrder(const StatementRecord &record)
     {
         const QRect box = m_page.orderBox();
-        m_order.setHtml(m_html.html(record));
+        m_order.setHtml(composed(m_html.html(record)));
         m_order.setTextWidth(box.width());
         QAbstractTextDocumentLayout::PaintContext context;
         // The desktop may be a dark one, paper is not.
@@ -117,7 +121,9 @@ private:
     const PageGeometry m_page;
     QPainter &m_painter;
     const StatementHtml m_html;
-    const QString m_family;
+    QFont m_titleFont;
+    QFont m_textFont;
+    QFont m_commentFont;
     ClosedDocument m_order;
 };
 
