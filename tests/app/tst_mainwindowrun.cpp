@@ -1,14 +1,17 @@
 // What the main window starts: conversions, other programs and the update.
 #include "app/startup.h"
+#include "statement/statementsetting.h"
 #include "tests/app/answermessagebox.h"
 #include "tests/app/mainwindowtest.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QProcess>
 #include <QProgressBar>
@@ -93,6 +96,9 @@ private slots:
     void folderIsShownInTheExplorer();
     void folderIsShownByTheDesktopWithoutExplorer();
     void statementIsOpened();
+    void statementIsMadeBesideTheOutput();
+    void statementThatCannotBeWrittenCanBeAskedFor();
+    void statementControlsStayAfterARunWithoutOne();
     void helpIsOpened();
     void makersSiteIsOpened();
     void updateIsOffered();
@@ -306,6 +312,100 @@ void TestMainWindowRun::statementIsOpened()
     find<QAction>("action_print")->trigger();
     // No run has made a statement yet: the path is empty.
     QCOMPARE(desktop.opened, (QStringList{QStringLiteral("file:///"), QStringLiteral("file:///")}));
+}
+
+/// Turns the statement of the setting "swap" on; its second page is told from its first by a
+/// number.
+static void saveStatement()
+{
+    StatementSetting statement;
+    statement.generate = true;
+    statement.title = QStringLiteral("Statement");
+    StatementField &number = statement.fields[StatementFields::OrderNumber];
+    number.toPrint = true;
+    number.mappings = QStringList{QStringLiteral("a")};
+    number.mapNums = {0};
+    saveStatementSetting(QStringLiteral("swap"), statement);
+}
+
+void TestMainWindowRun::statementIsMadeBesideTheOutput()
+{
+    saveStatement();
+    DesktopHandler desktop;
+    writeFile(path("주문 1.csv"), "a,b\r\n1,2\r\n3,4\r\n");
+    add({path("주문 1.csv")});
+    PaintedStatuses painted(m_window->statusBar());
+    click("convertButton");
+
+    QCOMPARE(readFile(path("주문 1_output.csv")).replace("\r\n", "\n"),
+             QByteArray("second,first\n2,1\n4,3\n"));
+    const QByteArray pdf = readFile(path("주문 1_output.pdf"));
+    QVERIFY(pdf.startsWith("%PDF-"));
+    QVERIFY(pdf.contains("/Count 2"));
+    QCOMPARE(m_window->statusBar()->currentMessage(), QStringLiteral("Converting succeeded."));
+    QCOMPARE(
+        enabledControls(),
+        QStringLiteral("convertButton printButton openFolderButton action_convert action_print"));
+
+    const auto *bar = find<QProgressBar>("progressBar");
+    QCOMPARE(bar->maximum(), 7); // rows built, rows written, pages, and the end
+    QCOMPARE(bar->value(), 7);
+    const int begin =
+        painted.texts.indexOf(QStringLiteral("Deleting duplication and merging items..."));
+    QCOMPARE(
+        painted.texts.mid(begin + 1),
+        (QStringList{QStringLiteral("Creating PDF file..."), QStringLiteral("Saving PDF file..."),
+                     QStringLiteral("Converting succeeded.")}));
+
+    click("printButton");
+    find<QAction>("action_print")->trigger();
+    QCOMPARE(desktop.opened.size(), 2);
+    for (const QString &address : qAsConst(desktop.opened)) {
+        QVERIFY(address.startsWith(QLatin1String("file:///")));
+        QCOMPARE(QDir::cleanPath(QUrl(address).toLocalFile()), path("주문 1_output.pdf"));
+    }
+
+    // Without files there is nothing to print.
+    find<QListWidget>("sourceFileList")->setCurrentRow(0);
+    click("removeButton");
+    QCOMPARE(enabledControls(), QString());
+}
+
+void TestMainWindowRun::statementThatCannotBeWrittenCanBeAskedFor()
+{
+    saveStatement();
+    add({path("one.csv")});
+    QVERIFY(QDir().mkpath(path("one_output.pdf"))); // a folder stands in its place
+    click("convertButton");
+    QCOMPARE(m_window->statusBar()->currentMessage(), QStringLiteral("Converting succeeded."));
+    QCOMPARE(
+        enabledControls(),
+        QStringLiteral("convertButton printButton openFolderButton action_convert action_print"));
+    const auto *bar = find<QProgressBar>("progressBar");
+    QCOMPARE(bar->value(), bar->maximum());
+    QCOMPARE(readFile(path("one_output.csv")).replace("\r\n", "\n"),
+             QByteArray("second,first\n2,1\n4,3\n"));
+}
+
+void TestMainWindowRun::statementControlsStayAfterARunWithoutOne()
+{
+    saveStatement();
+    saveSwapSetting(QStringLiteral("without"));
+    openWindow();
+    add({path("one.csv")});
+    find<QComboBox>("convertSetting")->setCurrentText(QStringLiteral("swap"));
+    click("convertButton");
+    find<QComboBox>("convertSetting")->setCurrentText(QStringLiteral("without"));
+    find<QLineEdit>("targetFile")->setText(path("other.csv"));
+    click("convertButton");
+    QVERIFY(QFileInfo::exists(path("other.csv")));
+    QVERIFY(!QFileInfo::exists(path("other.pdf")));
+    QVERIFY(find<QPushButton>("printButton")->isEnabled());
+
+    DesktopHandler desktop;
+    click("printButton");
+    QCOMPARE(desktop.opened.size(), 1);
+    QCOMPARE(QDir::cleanPath(QUrl(desktop.opened.first()).toLocalFile()), path("one_output.pdf"));
 }
 
 void TestMainWindowRun::helpIsOpened()

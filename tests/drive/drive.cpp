@@ -1,6 +1,9 @@
 #include "tests/drive/drive.h"
 
 #include "engine/runtexts.h"
+#include "statement/statementsetting.h"
+#include "tests/drive/openedfiles.h"
+#include "tests/drive/statementpages.h"
 #include "tests/drive/userhands.h"
 
 #include <QApplication>
@@ -60,6 +63,11 @@ QString dialogAnswer(const QStringList &files)
     return QLatin1Char('"') + files.join(QLatin1String("\" \"")) + QLatin1Char('"');
 }
 
+QString statementFile(const Conversion &conversion)
+{
+    return QString(conversion.outputFile).replace(QLatin1String(".csv"), QLatin1String(".pdf"));
+}
+
 /// A setting's name as a part of a file name.
 QString fileNamePart(QString text)
 {
@@ -100,10 +108,11 @@ bool Drive::convert(const Conversion &conversion)
 {
     // An output file of an earlier walk would prove nothing.
     QFile::remove(conversion.outputFile);
+    QFile::remove(statementFile(conversion));
     return addInputFiles(conversion.inputFiles) && chooseSetting(conversion.settingName)
         && chooseOutputFile(conversion.outputFile) && pressConvert()
         && takeScreenshot(fileNamePart(conversion.settingName)) && checkOutput(conversion)
-        && removeInputFiles();
+        && checkStatement(conversion) && removeInputFiles();
 }
 
 bool Drive::showFileMenu()
@@ -176,6 +185,33 @@ bool Drive::checkOutput(const Conversion &conversion)
     if (!QFileInfo::exists(conversion.outputFile))
         return fail(QStringLiteral("There is no output file %1.").arg(conversion.outputFile));
     print(stdout, QStringLiteral("output file  %1").arg(conversion.outputFile));
+    return true;
+}
+
+bool Drive::checkStatement(const Conversion &conversion)
+{
+    if (!loadStatementSetting(conversion.settingName).generate)
+        return true;
+    const QString file = statementFile(conversion);
+    if (!QFileInfo::exists(file))
+        return fail(QStringLiteral("There is no statement %1.").arg(file));
+    print(stdout, QStringLiteral("statement    %1").arg(file));
+
+    // The desktop would show it in its viewer.
+    OpenedFiles opened;
+    if (!click(QStringLiteral("printButton"))
+        || !waitFor(QStringLiteral("the statement to be opened"),
+                    [&] { return opened.contains(file); }))
+        return false;
+
+    QStringList pictures;
+    const QString problem = paintPages(
+        file, QDir(m_screenshotFolder).absoluteFilePath(QFileInfo(file).completeBaseName()),
+        &pictures);
+    if (!problem.isEmpty())
+        return fail(problem);
+    for (const QString &picture : pictures)
+        print(stdout, QStringLiteral("page         %1").arg(picture));
     return true;
 }
 

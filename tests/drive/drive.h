@@ -13,7 +13,8 @@ class Drive
 public:
     Drive(QMainWindow &window, const QString &screenshotFolder);
 
-    /// Walks the whole way and prints the path of every output file and screenshot. The first thing
+    /// Walks the whole way and prints the path of every output file, statement page and
+    /// screenshot. The first thing
     /// that is not as expected ends the walk: it is printed, the screen is kept in a last
     /// screenshot, and the answer is false.
     bool run(const QList<Conversion> &conversions);
@@ -27,6 +28,8 @@ private:
     bool chooseOutputFile(const QString &file);
     bool pressConvert();
     bool checkOutput(const Conversion &conversion);
+    /// Opens the statement, if the setting makes one, and paints its pages.
+    bool checkStatement(const Conversion &conversion);
     bool removeInputFiles();
     bool quit();
 

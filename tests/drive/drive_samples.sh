@@ -5,7 +5,7 @@
 set -euo pipefail
 programs=$1
 source=$2
-for tool in xvfb-run openbox xdotool; do
+for tool in xvfb-run openbox xdotool pdftoppm; do
     command -v "$tool" >/dev/null || { echo "no $tool here"; exit 77; }
 done
 work=$(mktemp -d)
@@ -18,6 +18,10 @@ mkdir "$work/shots"
     "$work/sample/conversions.txt" "$work/shots"
 for expected in "$source"/tests/samples/expected/*.csv; do
     cmp "$expected" "$work/sample/$(basename "$expected")"
+done
+# One page for each order.
+for statement in cart_kr_orders_output.pdf:12 cart_jp_orders_output.pdf:11; do
+    pdfinfo "$work/sample/${statement%:*}" | grep -q "^Pages: *${statement#*:}\$"
 done
 
 # The program ends with 0 when its window is closed.

@@ -6,6 +6,7 @@
 #include "engine/table.h"
 #include "settings/inputsetting.h"
 #include "tests/samples/outputcolumn.h"
+#include "tests/samples/samplestatements.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -117,6 +118,7 @@ void saveKoreanLabels(const QDir &folder)
                                          .afterRule("trim")};
     saveInputSetting(name, input);
     saveOutputItems(name, first + koreanLabelColumns(input.heads, 0));
+    saveStatementSetting(name, koreanStatement(input.heads));
 }
 
 /// One label for each address: the name and the four columns behind it decide.
@@ -128,6 +130,7 @@ void saveKoreanSharedParcels(const QDir &folder)
         OutputColumn(input.heads, "수취인명").from("수령인").rule("trim").distinct()};
     saveInputSetting(name, input);
     saveOutputItems(name, first + koreanLabelColumns(input.heads, 4));
+    saveStatementSetting(name, StatementSetting());
 }
 
 void saveJapaneseLabels(const QDir &folder)
@@ -189,7 +192,7 @@ void saveJapaneseLabels(const QDir &folder)
         column("お届け先電話番号").from("電話番号(配送先)").rules(digitsOnly),
         itemNames("品名1").afterRule("left(25)"),
         itemNames("品名2").afterRule("cutLeft(25)").afterRule("left(25)"),
-        column("個数").from("個数").rule("charType(halfWidth)").sum(),
+        column("個数").from("個数").sum(),
         column("半角品名(端末用)")
             .from("アイテム名")
             .from("種類")
@@ -211,6 +214,7 @@ void saveJapaneseLabels(const QDir &folder)
     };
     saveInputSetting(name, input);
     saveOutputItems(name, items);
+    saveStatementSetting(name, japaneseStatement(input.heads));
 }
 
 /// One row for each payment of an order. A payment that stands twice in the export counts once: the
@@ -278,6 +282,7 @@ void saveAccounting(const QDir &folder)
     };
     saveInputSetting(name, input);
     saveOutputItems(name, items);
+    saveStatementSetting(name, StatementSetting());
 }
 
 } // namespace

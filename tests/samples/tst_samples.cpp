@@ -6,6 +6,8 @@
 #include "settings/convertsettings.h"
 #include "settings/inputsetting.h"
 #include "settings/outputitem.h"
+#include "statement/statementsetting.h"
+#include "statement/statementtexts.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,6 +33,46 @@ QByteArray contents(const QString &path, QIODevice::OpenMode mode = QIODevice::R
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly | mode) ? file.readAll() : QByteArray();
+}
+
+/// What the pages of a statement say, to be read and compared line by line.
+QString pagesAsText(const StatementDocument &document)
+{
+    const auto numbers = [](const QVector<qint32> &list, int line) {
+        return QString::number(list.value(line));
+    };
+    QStringList text{document.title, document.companyText, document.message, document.comment};
+    for (int i = 0; i < document.data.count(); ++i) {
+        const StatementRecord &record = document.data.record(i);
+        text << QStringLiteral("--- page %1").arg(i + 1)
+             << customerText(record, document.data.printed())
+             << record.orderNumber + QLatin1String(", ") + record.orderDate;
+        for (int line = 0; line < record.productName.size(); ++line) {
+            text << QStringList{record.productNumber.value(line), record.productName.value(line),
+                                record.option.value(line),        numbers(record.quantity, line),
+                                numbers(record.unitPrice, line),  numbers(record.subtotal, line)}
+                        .join(QLatin1String(" | "));
+        }
+        text << QStringLiteral("sum %1, tax %2, shipping %3, cash on delivery %4")
+                    .arg(record.sum)
+                    .arg(record.tax)
+                    .arg(record.shippingCharge)
+                    .arg(record.codCharge)
+             << QStringLiteral("total %1, coupon %2, point %3, payment %4")
+                    .arg(record.totalSum)
+                    .arg(record.coupon)
+                    .arg(record.point)
+                    .arg(record.payment);
+    }
+    return text.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+QString recordedPages; // of the last run
+
+bool recordPages(const StatementDocument &document, const QString &, StatementProgress &)
+{
+    recordedPages = pagesAsText(document);
+    return true;
 }
 
 struct Reporter : RunReporter {
@@ -112,12 +154,18 @@ void TestSamples::convert()
         request.inputFiles.append(sampleFolder().filePath(name));
 
     Reporter reporter;
-    const bool succeeded = runConversion(request, reporter);
+    recordedPages.clear();
+    const bool succeeded = runConversion(request, reporter, recordPages);
     QCOMPARE(reporter.errors, QStringList());
     QVERIFY(succeeded);
     // As texts: a difference is then shown in words.
     QCOMPARE(QString::fromUtf8(contents(request.outputFile, QIODevice::Text)),
              QString::fromUtf8(contents(expectedFolder().filePath(outputName), QIODevice::Text)));
+
+    const QString pages =
+        QString(outputName).replace(QLatin1String("_output.csv"), QLatin1String("_statement.txt"));
+    QCOMPARE(recordedPages,
+             QString::fromUtf8(contents(expectedFolder().filePath(pages), QIODevice::Text)));
 }
 
 // Without the mark they would be read in the code page of the machine.
@@ -161,6 +209,12 @@ void TestSamples::settingsFitTheirFiles()
                     QCOMPARE(input.heads.value(item.mapNums.at(i)), item.mappings.at(i));
             }
             QCOMPARE(item.condRules.size(), item.condNums.size());
+        }
+        const StatementSetting statement = loadStatementSetting(name);
+        for (const StatementField &field : statement.fields) {
+            QCOMPARE(field.mapNums.size(), field.mappings.size());
+            for (int i = 0; i < field.mapNums.size(); ++i)
+                QCOMPARE(input.heads.value(field.mapNums.at(i)), field.mappings.at(i));
         }
     }
 }
