@@ -15,6 +15,7 @@
 #include "statement/statementtexts.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <new>
 
 namespace {
@@ -85,9 +86,11 @@ void makeStatement(const StatementDocument &document, const QString &outputFile,
 {
     const QString pdfFile = statementFile(outputFile);
     StatementSteps steps(progress, reporter);
-    // The statements of an earlier run must not pass for those of this one.
-    if (!generator(document, pdfFile, steps) && pdfFile != outputFile)
+    // The statements of an earlier run must not pass for those of this one, whatever happens now.
+    // The two files may be one, also by a link.
+    if (QFileInfo(pdfFile) != QFileInfo(outputFile))
         QFile::remove(pdfFile);
+    generator(document, pdfFile, steps); // a file that cannot be written is not there, no more
     progress.finish();
     reporter.statementFinished(pdfFile);
 }

@@ -14,9 +14,9 @@ struct ConversionRequest {
     QString settingName;    ///< a convert setting of the settings file
 };
 
-/// Converts, synchronously. Returns whether the output file was written whole; every failure has
-/// then been reported once through `reporter`. When the setting asks for statements, `generator`
-/// makes them beside the output file; that it could not is no failure. Without a generator there
-/// are none.
+/// Converts, synchronously. Returns whether all went well; otherwise the one failure has been
+/// reported through `reporter`, and what was written until then stays. When the setting asks for
+/// statements, `generator` makes them beside the output file, which is complete by then; that it
+/// could not is no failure. Without a generator there are none.
 bool runConversion(const ConversionRequest &request, RunReporter &reporter,
                    StatementGenerator generator = nullptr);

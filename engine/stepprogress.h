@@ -27,8 +27,7 @@ public:
     void finish()
     {
         m_value = m_maximum;
-        if (m_reported != m_value)
-            report();
+        report();
     }
 
 private:

@@ -63,6 +63,8 @@ public:
         m_order.setDefaultFont(m_textFont);
         m_order.setDefaultStyleSheet(StatementHtml::styleSheet(family));
         m_order.setUndoRedoEnabled(false);
+        // Once: it would lay out every page a second time.
+        m_order.setTextWidth(page.orderBox().width());
         // Letters stand where the paper wants them, not where a screen's dots would be.
         m_order.setUseDesignMetrics(true);
     }
@@ -104,7 +106,6 @@ private:
     {
         const QRect box = m_page.orderBox();
         m_order.setHtml(composed(m_html.html(record)));
-        m_order.setTextWidth(box.width());
         QAbstractTextDocumentLayout::PaintContext context;
         // The desktop may be a dark one, paper is not.
         context.palette.setColor(QPalette::Text, Qt::black);

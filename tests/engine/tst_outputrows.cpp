@@ -3,9 +3,10 @@
 #include "engine/outputrowbuilder.h"
 #include "engine/outputrows.h"
 #include "tests/engine/outputoracle.h"
+#include "tests/engine/randomitems.h"
 #include "tests/engine/tabletext.h"
+#include "tests/engine/testitems.h"
 
-#include <QRandomGenerator>
 #include <QtTest>
 
 namespace {
@@ -18,66 +19,6 @@ CompanyInfo testCompany()
     company.fields = {"Quorin", "the store", "www.example.com", "123-4567",
                       "Seoul",  "02-1234",   "02-9999",         "a@example.com"};
     return company;
-}
-
-// An item that takes these columns of the input row.
-OutputItem columns(const QList<int> &numbers, const QString &separator = QString())
-{
-    OutputItem item;
-    for (const int number : numbers)
-        item.appendMapping(InputSource, number, "column");
-    item.separator = separator;
-    item.distinct = "NO";
-    return item;
-}
-
-struct Tested {
-    int column;
-    QString rule;
-};
-
-OutputItem underConditions(OutputItem item, const QString &combination, const QList<Tested> &tested)
-{
-    for (const Tested &condition : tested) {
-        item.appendCondition(InputSource, condition.column, "column");
-        item.condRules.last() = condition.rule;
-    }
-    item.condCombination = combination;
-    return item;
-}
-
-OutputItem withRules(OutputItem item, const QStringList &rules)
-{
-    item.rules = rules;
-    return item;
-}
-
-OutputItem withAfterRules(OutputItem item, const QStringList &rules)
-{
-    item.afterRules = rules;
-    return item;
-}
-
-OutputItem distinct(OutputItem item)
-{
-    item.distinct = "YES";
-    return item;
-}
-
-OutputItem merged(OutputItem item, const QString &merge, const QString &separator = QString())
-{
-    item.merge = merge;
-    item.mergeSeparator = separator;
-    return item;
-}
-
-Table tableOf(const Rows &dataRows)
-{
-    Rows rows = {{"a", "b", "c", "d", "e"}};
-    rows += dataRows;
-    Table table;
-    table.setRows(TextRows(rows));
-    return table;
 }
 
 QStringList outputLines(const Table &table, const QList<OutputItem> &items,
@@ -470,130 +411,6 @@ void TestOutputRows::valuesCanBeReadInAnyOrder()
 }
 
 // --- random settings --------------------------------------------------------------------------
-
-namespace {
-
-template <typename List> auto anyOf(const List &list, QRandomGenerator &random)
-{
-    return list.at(random.bounded(list.size()));
-}
-
-QStringList someOf(const QStringList &list, int maximum, QRandomGenerator &random)
-{
-    QStringList some;
-    for (int count = random.bounded(maximum + 1); count > 0; --count)
-        some.append(anyOf(list, random));
-    return some;
-}
-
-const QStringList someRules = {
-    "left(2)",
-    "right(1)",
-    "cutLeft(1)",
-    "cutRight(1)",
-    "curRight(1)",
-    "left(0)",
-    "breakLine(1)",
-    "newLine(REMOVE)",
-    "newLine(CRLF)",
-    "prepend(0)",
-    "append(1)",
-    "append(한)",
-    "find(contains(a),matchedString,replace(b))",
-    "find(contains(1),fullString,print)",
-    "find(startsWith(a),matchedString,delete)",
-    "find(equalTo(b),fullString,replace(a))",
-    "charType(upperCase)",
-    "charType(fullWidth)",
-    "trim",
-    "simplified",
-    "unknown(1)",
-    "",
-};
-
-const QStringList someConditions = {
-    "equalTo(a)",
-    "notEqualTo(a)",
-    "contains(1)",
-    "notContains()",
-    "startsWith(a)",
-    "endsWith(b)",
-    "equalTo()",
-    "range(greaterThan(0),unLimit)",
-    "range(unLimit,notGreaterThan(1))",
-    "range(notLessThan(1),lessThan(100))",
-    "range()",
-    "range",
-    "Contains(a)",
-    "",
-};
-
-const QStringList someTexts = {"",   "a", "a",  "b", "ab", "1",          "2",  "-1", "007", "3.5",
-                               " 7", "A", "한", "x", "\n", "2147483647", "é ", "10", ",",   "0"};
-
-// Lists of different lengths and numbers out of range included: settings can be damaged.
-OutputItem randomItem(QRandomGenerator &random)
-{
-    OutputItem item;
-    const QList<int> kinds = {0, 1, 1, 1, 1, 2, -1};
-    const auto numbers = [&](int count) {
-        QList<int> list;
-        for (int i = 0; i < count; ++i)
-            list.append(random.bounded(10) == 0 ? random.bounded(-3, 12) : random.bounded(4));
-        return list;
-    };
-    const auto someKinds = [&](int count) {
-        QList<int> list;
-        for (int i = 0; i < count; ++i)
-            list.append(anyOf(kinds, random));
-        return list;
-    };
-    const auto nearly = [&random](int count) {
-        return random.bounded(15) == 0 ? random.bounded(4) : count;
-    };
-    const int mapped = random.bounded(4);
-    item.mapNums = numbers(mapped);
-    item.mapSources = someKinds(nearly(mapped));
-    item.separator = anyOf(QStringList{"", " ", "-", ",", "\n"}, random);
-    if (random.bounded(3) == 0) {
-        const int tested = random.bounded(4);
-        item.condNums = numbers(tested);
-        item.condSources = someKinds(nearly(tested));
-        for (int i = nearly(tested); i > 0; --i)
-            item.conditions.append("shown");
-        for (int i = nearly(tested); i > 0; --i)
-            item.condRules.append(anyOf(someConditions, random));
-        item.condCombination = anyOf(QStringList{"AND", "AND", "OR", "OR", "and", ""}, random);
-    }
-    item.rules = random.bounded(2) == 0 ? someOf(someRules, 3, random) : QStringList();
-    item.afterRules = random.bounded(2) == 0 ? someOf(someRules, 3, random) : QStringList();
-    item.distinct = anyOf(QStringList{"YES", "NO", "NO", "", "yes"}, random);
-    item.merge = anyOf(QStringList{"STRING", "STRING", "NUMBER", "NUMBER", "", "NONE"}, random);
-    item.mergeSeparator = anyOf(QStringList{"", "/", "\n", ", "}, random);
-    return item;
-}
-
-Table randomTable(QRandomGenerator &random)
-{
-    const int texts = 2 + random.bounded(someTexts.size() - 1);
-    const auto rows = [&](int count) {
-        Rows rows = {{"a", "b", "c"}};
-        for (int row = 0; row < count; ++row) {
-            QStringList fields;
-            for (int column = 0; column < 3; ++column)
-                fields.append(someTexts.at(random.bounded(texts)));
-            rows.append(fields);
-        }
-        return TextRows(rows);
-    };
-    Table table;
-    table.setRows(rows(random.bounded(30)));
-    if (random.bounded(2) == 0)
-        table.join(rows(random.bounded(6)), random.bounded(3), random.bounded(3));
-    return table;
-}
-
-} // namespace
 
 void TestOutputRows::randomSettingsAsTheOracle_data()
 {
