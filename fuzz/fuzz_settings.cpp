@@ -7,6 +7,7 @@
 #include "settings/inputsetting.h"
 #include "settings/outputitem.h"
 #include "settings/settings.h"
+#include "statement/statementsetting.h"
 
 #include <QDir>
 #include <QFile>
@@ -86,6 +87,7 @@ void loadEverything()
     loadCompanyInfo();
     for (const int number : {-1, 0, int(CompanyInfo::FieldCount)})
         companyValue(number);
+    StatementSetting statementToSave;
     const QStringList names = settingNames();
     for (const QString &name : names.mid(0, loadedSettings)) {
         const InputSetting input = loadInputSetting(name);
@@ -96,7 +98,19 @@ void loadEverything()
             item.removeCondition(item.condRules.size());
             item.appendCondition(InputSource, 0, name);
         }
+        const StatementSetting statement = loadStatementSetting(name);
+        check(statement == loadStatementSetting(name),
+              "reading the statement part twice gives the same");
+        if (!(statement == StatementSetting()))
+            statementToSave = statement;
     }
+    if (statementToSave == StatementSetting()) // writing takes long
+        return;
+
+    QFile::remove(QStringLiteral("quorinConverter.dat"));
+    saveStatementSetting(QStringLiteral("A"), statementToSave);
+    check(statementToSave == loadStatementSetting(QStringLiteral("A")),
+          "a statement part that was read can be saved and read again");
 }
 
 } // namespace
