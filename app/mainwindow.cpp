@@ -265,7 +265,7 @@ void MainWindow::progress(int value, int maximum)
 
 void MainWindow::statementFinished(const QString &pdfFile)
 {
-    m_statementFile = pdfFile;
+    m_statementFile = pdfFile.isEmpty() ? QString() : QFileInfo(pdfFile).absoluteFilePath();
     ui->printButton->setEnabled(true);
     ui->action_print->setEnabled(true);
 }

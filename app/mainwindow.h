@@ -66,7 +66,7 @@ private:
     const std::unique_ptr<Ui::MainWindow> ui;
     QStringListModel *m_settingNames = nullptr;
     QProgressBar *m_progressBar = nullptr;
-    QString m_statementFile; ///< path of the last statement that was made
+    QString m_statementFile; ///< path of the last statement that was made or tried
     QString m_status;        ///< stays in the status bar whenever no tip covers it
     QString m_runError;      ///< why the last run failed
 };

@@ -113,13 +113,14 @@ bool writeHtml(const StatementDocument &statement, const QString &fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return false;
+    const QString style = StatementHtml::styleSheet(QString());
     QTextStream out(&file);
     out.setCodec("UTF-8");
     out << "<!DOCTYPE html><html><head><meta charset='utf-8'><title>" << statement.title
         << "</title><style>@page{size:A4;margin:10pt}body{margin:0;font-size:12px}"
            ".page{position:relative;width:767px;height:1096px;page-break-after:always;"
            "border:1px solid black;box-sizing:border-box}"
-        << StatementHtml::styleSheet(QStringLiteral("Noto Sans CJK KR")).remove(0, 50)
+        << style.mid(style.indexOf(QLatin1Char('}')) + 1) // without what holds for all elements
         << ".order *{font-size:10px}.order table.right{width:40%;margin-left:60%}</style></head>"
            "<body>";
     const PageGeometry page(767, 1097, 1123);
@@ -144,7 +145,8 @@ bool writeHtml(const StatementDocument &statement, const QString &fileName)
             << "</div>\n";
     }
     out << "</body></html>\n";
-    return true;
+    out.flush();
+    return file.flush();
 }
 
 } // namespace
@@ -156,7 +158,9 @@ int main(int argc, char *argv[])
     const QString task = arguments.value(1);
     const int pages = arguments.value(2).toInt();
     const QString file = arguments.value(3);
-    if (arguments.size() != 4 || pages <= 0) {
+    const QStringList tasks{QStringLiteral("full"), QStringLiteral("empty"),
+                            QStringLiteral("texts"), QStringLiteral("html")};
+    if (arguments.size() != 4 || !tasks.contains(task) || pages <= 0) {
         QTextStream(stderr) << "usage: quorinBenchPages full|empty|texts|html PAGES FILE\n";
         return 2;
     }

@@ -88,11 +88,14 @@ void makeStatement(const StatementDocument &document, const QString &outputFile,
     StatementSteps steps(progress, reporter);
     // The statements of an earlier run must not pass for those of this one, whatever happens now.
     // The two files may be one, also by a link.
-    if (QFileInfo(pdfFile) != QFileInfo(outputFile))
+    const bool isOwnFile = QFileInfo(pdfFile) != QFileInfo(outputFile);
+    if (isOwnFile)
         QFile::remove(pdfFile);
-    generator(document, pdfFile, steps); // a file that cannot be written is not there, no more
+    const bool made = generator(document, pdfFile, steps);
     progress.finish();
-    reporter.statementFinished(pdfFile);
+    // One that could neither be written nor removed, because a viewer has it open, is an old one.
+    const bool isOld = !made && isOwnFile && QFileInfo::exists(pdfFile);
+    reporter.statementFinished(isOld ? QString() : pdfFile);
 }
 
 /// What a run reads from the settings file, apart from its input forms.

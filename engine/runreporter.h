@@ -14,6 +14,7 @@ struct RunReporter {
     /// stage.
     virtual void progress(int value, int maximum) = 0;
     /// The statements of the run were made into this file, or could not be: then it is not there.
+    /// Without a name: an old file stands in its place that must not be taken for it.
     virtual void statementFinished(const QString &pdfFile) = 0;
     /// The output file is complete. Called last, only after success.
     virtual void finished() = 0;

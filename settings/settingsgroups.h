@@ -1,4 +1,4 @@
-// Helpers with which the records of this folder find their place in the settings file.
+// Helpers with which the records of a convert setting find their place in the settings file.
 #pragma once
 
 #include <QList>

@@ -4,9 +4,11 @@
 
 QString composed(const QString &text)
 {
-    // Hangul letters; anything with combining accents or the sound marks of kana behind it.
+    // Hangul letters, also behind a syllable that lacks its last one; anything with combining
+    // accents or the sound marks of kana behind it.
     static const QRegularExpression pieces(
-        QStringLiteral("[\\x{1100}-\\x{11FF}]+|.[\\x{0300}-\\x{036F}\\x{3099}\\x{309A}]+"));
+        QStringLiteral("[\\x{AC00}-\\x{D7A3}]?[\\x{1100}-\\x{11FF}]+"
+                       "|.[\\x{0300}-\\x{036F}\\x{3099}\\x{309A}]+"));
     QString result;
     int copied = 0;
     QRegularExpressionMatchIterator matches = pieces.globalMatch(text);

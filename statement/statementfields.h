@@ -6,6 +6,7 @@
 
 namespace StatementFields {
 
+/// Texts, then lists of texts, lists of numbers, numbers: StatementRecord relies on the order.
 enum Field {
     Name,
     Address,
@@ -32,7 +33,8 @@ enum Field {
 /// The name of the field's group in the settings file; empty for a number that is no field.
 QString key(int field);
 
-/// The field's name for the user, translated; empty for a number that is no field.
+/// The field's name for the user, translated; empty for a number that is no field. The labels on
+/// the pages are other texts: "Order number" here is "Order Number" there.
 QString displayName(int field);
 
 } // namespace StatementFields

@@ -6,14 +6,15 @@
 
 namespace {
 
-// What the systems that shops use come with, plain faces before all others.
+// What the systems that shops use come with, plain faces before all others. Windows gives some of
+// them under their own language's name only.
 const char *const koreanFaces[] = {
-    "Malgun Gothic",       "Noto Sans CJK KR", "Noto Sans KR", "Source Han Sans K",
-    "Apple SD Gothic Neo", "NanumGothic",      "UnDotum",      "Gulim"};
-const char *const japaneseFaces[] = {"Yu Gothic UI",     "Yu Gothic",    "Meiryo",
-                                     "Noto Sans CJK JP", "Noto Sans JP", "Source Han Sans",
-                                     "Hiragino Sans",    "IPAexGothic",  "TakaoGothic",
-                                     "VL Gothic",        "MS Gothic"};
+    "Malgun Gothic",       "맑은 고딕",   "Noto Sans CJK KR", "Noto Sans KR", "Source Han Sans K",
+    "Apple SD Gothic Neo", "NanumGothic", "UnDotum",          "Gulim",        "굴림"};
+const char *const japaneseFaces[] = {
+    "Yu Gothic UI",     "Yu Gothic",    "游ゴシック",      "Meiryo",        "メイリオ",
+    "Noto Sans CJK JP", "Noto Sans JP", "Source Han Sans", "Hiragino Sans", "IPAexGothic",
+    "TakaoGothic",      "VL Gothic",    "MS Gothic",       "ＭＳ ゴシック"};
 
 template <size_t Size>
 void appendFamilies(QStringList &families, QFontDatabase::WritingSystem writingSystem,
@@ -21,8 +22,9 @@ void appendFamilies(QStringList &families, QFontDatabase::WritingSystem writingS
 {
     const QStringList installed = QFontDatabase().families(writingSystem);
     for (const char *face : preferred) {
-        if (installed.contains(QLatin1String(face), Qt::CaseInsensitive))
-            families.append(QLatin1String(face));
+        const QString name = QString::fromUtf8(face);
+        if (installed.contains(name, Qt::CaseInsensitive))
+            families.append(name);
     }
     families.append(installed);
 }
@@ -43,11 +45,9 @@ QStringList cjkFamilies(QLocale::Language language)
 
 QString prepareStatementFont(const QString &chosen, QLocale::Language language)
 {
-    const QString family = chosen.isEmpty() ? QGuiApplication::font().family() : chosen;
+    QString family = chosen.isEmpty() ? QGuiApplication::font().family() : chosen;
     QStringList substitutes = cjkFamilies(language);
     substitutes.removeAll(family);
-    // They would pile up from run to run otherwise.
-    QFont::removeSubstitutions(family);
-    QFont::insertSubstitutions(family, substitutes);
+    QFont::insertSubstitutions(family, substitutes); // adds those that are not there yet
     return family;
 }

@@ -1,5 +1,10 @@
 #include "statement/statementhtml.h"
 
+#include "statement/composedtext.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+
 using namespace StatementFields;
 
 namespace {
@@ -14,6 +19,12 @@ QString tableStart()
 QString tableEnd()
 {
     return QStringLiteral("</table>");
+}
+
+/// A text of the shop's data, to show as its characters stand: nothing in it is markup.
+QString shown(const QString &text)
+{
+    return composed(text).toHtmlEscaped();
 }
 
 QString numberCell(const QString &text)
@@ -62,7 +73,9 @@ QString StatementHtml::html(const StatementRecord &record) const
 
 QString StatementHtml::styleSheet(const QString &fontFamily)
 {
-    return QLatin1String("*{font-size:10px;font-family:'") + fontFamily
+    // No family name needs a character that would end the quoted name.
+    static const QRegularExpression endings(QStringLiteral("['\\\\\r\n]"));
+    return QLatin1String("*{font-size:10px;font-family:'") + QString(fontFamily).remove(endings)
         + QLatin1String("';}"
                         "ul{padding:0px;margin:5px;}"
                         "li{padding:0px;margin:0 0 5px 0;list-style:square;}"
@@ -80,7 +93,7 @@ QString StatementHtml::money(qint32 value) const
 QString StatementHtml::orderBlock(const StatementRecord &record) const
 {
     const auto entry = [](const QString &label, const QString &value) {
-        return QString(QLatin1String("<li> ") + label + QLatin1String(" : ") + value.toHtmlEscaped()
+        return QString(QLatin1String("<li> ") + label + QLatin1String(" : ") + shown(value)
                        + QLatin1String("</li>"));
     };
     QString html = tableStart() + QLatin1String("<tr><th>") + tr("Order Detail")
@@ -121,7 +134,7 @@ QString StatementHtml::productRow(const StatementRecord &record, int line) const
             parts.append(record.productName.value(line));
         if (prints(Option))
             parts.append(record.option.value(line));
-        html += QLatin1String("<td>") + parts.join(QLatin1String(" / ")).toHtmlEscaped()
+        html += QLatin1String("<td>") + shown(parts.join(QLatin1String(" / ")))
             + QLatin1String("</td>");
     }
     if (prints(Quantity))
@@ -133,7 +146,8 @@ QString StatementHtml::productRow(const StatementRecord &record, int line) const
     return html + QLatin1String("</tr>");
 }
 
-// Required: the product names decide how many rows there are, printed or not.
+// Required: the product names decide how many rows there are, printed or not. Names that are not
+// printed give one row less than the order has lines.
 QString StatementHtml::productTable(const StatementRecord &record) const
 {
     QString html = tableStart() + productHeading();

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <initializer_list>
+#include <vector>
 
 class StatementHtml
 {
@@ -14,11 +16,11 @@ public:
     /// Decides once for all pages which parts appear.
     explicit StatementHtml(const StatementFlags &printed);
 
-    /// The rich text of one record; empty when none of its parts is printed. Texts of the record
-    /// show as they stand, whatever characters they hold.
+    /// The rich text of one record; empty when none of its parts is printed. No character of the
+    /// record's texts is taken for markup; runs of blanks and line breaks show as one blank.
     QString html(const StatementRecord &record) const;
 
-    /// The style of the text, in the given font.
+    /// The style of the text, in the given font family.
     static QString styleSheet(const QString &fontFamily);
 
 private:

@@ -7,10 +7,10 @@
 #include "statement/statementtexts.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QPainter>
-#include <QPrinter>
+#include <QPdfWriter>
 #include <QSaveFile>
-#include <QTemporaryFile>
 #include <QTextDocument>
 
 namespace {
@@ -26,9 +26,9 @@ protected:
     QVariant loadResource(int, const QUrl &) override { return QVariant(); }
 };
 
-PageGeometry geometryOf(const QPrinter &printer)
+PageGeometry geometryOf(const QPdfWriter &writer)
 {
-    const QPageLayout layout = printer.pageLayout();
+    const QPageLayout layout = writer.pageLayout();
     const QSize page = layout.paintRectPixels(PageGeometry::resolution).size();
     return PageGeometry(page.width(), page.height(),
                         layout.fullRectPixels(PageGeometry::resolution).height());
@@ -76,10 +76,10 @@ public:
         drawText(m_page.companyBox(), Qt::TextWordWrap, m_textFont, m_statement.companyText);
         drawText(m_page.customerBox(), Qt::TextWordWrap, m_textFont,
                  customerText(record, m_printed));
-        drawText(m_page.messageBox(), Qt::TextWordWrap | Qt::AlignBottom, m_textFont,
+        drawText(m_page.messageBox(), int(Qt::TextWordWrap) | int(Qt::AlignBottom), m_textFont,
                  m_statement.message);
         drawOrder(record);
-        drawText(m_page.commentBox(), Qt::TextWordWrap | Qt::AlignCenter, m_commentFont,
+        drawText(m_page.commentBox(), int(Qt::TextWordWrap) | int(Qt::AlignCenter), m_commentFont,
                  m_statement.comment);
     }
 
@@ -105,7 +105,7 @@ private:
     void drawOrder(const StatementRecord &record)
     {
         const QRect box = m_page.orderBox();
-        m_order.setHtml(composed(m_html.html(record)));
+        m_order.setHtml(m_html.html(record));
         QAbstractTextDocumentLayout::PaintContext context;
         // The desktop may be a dark one, paper is not.
         context.palette.setColor(QPalette::Text, Qt::black);
@@ -128,27 +128,24 @@ private:
     ClosedDocument m_order;
 };
 
-/// Paints all pages into the file; false when it cannot be opened.
-bool paintPages(const StatementDocument &statement, const QString &fileName,
-                StatementProgress &progress)
+/// Paints all pages; false when the device takes nothing at all.
+bool paintPages(const StatementDocument &statement, QIODevice &device, StatementProgress &progress)
 {
-    QPrinter printer(QPrinter::ScreenResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(fileName);
-    printer.setResolution(PageGeometry::resolution);
+    QPdfWriter writer(&device);
+    writer.setResolution(PageGeometry::resolution);
     const qreal margin = PageGeometry::margin;
-    printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                      QMarginsF(margin, margin, margin, margin)));
-    printer.setDocName(statement.title);
-    printer.setCreator(QCoreApplication::applicationName());
+    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                     QMarginsF(margin, margin, margin, margin)));
+    writer.setTitle(statement.title);
+    writer.setCreator(QCoreApplication::applicationName());
 
     QPainter painter;
-    if (!painter.begin(&printer))
+    if (!painter.begin(&writer))
         return false;
-    PagePainter pages(statement, geometryOf(printer), painter);
+    PagePainter pages(statement, geometryOf(writer), painter);
     for (int i = 0; i < statement.data.count(); ++i) {
         if (i > 0)
-            printer.newPage();
+            writer.newPage();
         pages.paint(statement.data.record(i));
         progress.pagePainted();
     }
@@ -156,47 +153,13 @@ bool paintPages(const StatementDocument &statement, const QString &fileName,
     return painter.end();
 }
 
-/// The printer does not say when it could not write. Its file ends with the place where its table
-/// of contents begins; with a single byte missing, there is something else at that place.
-bool isWholePdf(QFile &file)
-{
-    const int tailSize = 64;
-    if (!file.seek(qMax<qint64>(0, file.size() - tailSize)))
-        return false;
-    const QByteArray tail = file.readAll();
-    const QByteArray keyword = "startxref\n";
-    const int start = tail.lastIndexOf(keyword);
-    if (start < 0 || !tail.endsWith("%%EOF\n"))
-        return false;
-    const int number = start + keyword.size();
-    const qint64 table = tail.mid(number, tail.indexOf('\n', number) - number).toLongLong();
-    return file.seek(table) && file.read(4) == "xref";
-}
-
-bool copyTo(QFile &from, const QString &fileName)
-{
-    QSaveFile to(fileName);
-    to.setDirectWriteFallback(true); // a folder may let files be changed but not made
-    if (!from.seek(0) || !to.open(QIODevice::WriteOnly))
-        return false;
-    const qint64 blockSize = 1 << 20;
-    while (!from.atEnd()) {
-        const QByteArray block = from.read(blockSize);
-        if (block.isEmpty() || to.write(block) != block.size())
-            return false;
-    }
-    return to.commit();
-}
-
 } // namespace
 
 bool generateStatementPdf(const StatementDocument &document, const QString &fileName,
                           StatementProgress &progress)
 {
-    // Painted elsewhere first: a full disk must not leave half of a file.
-    QTemporaryFile painted;
-    if (!painted.open())
-        return false;
-    return paintPages(document, painted.fileName(), progress) && isWholePdf(painted)
-        && copyTo(painted, fileName);
+    // The writer does not say that a disk is full, but the file remembers it.
+    QSaveFile file(fileName);
+    file.setDirectWriteFallback(true);
+    return file.open(QIODevice::WriteOnly) && paintPages(document, file, progress) && file.commit();
 }

@@ -3,7 +3,8 @@
 
 #include "statement/statementdocument.h"
 
-/// A StatementGenerator. Needs a QGuiApplication. What cannot be written leaves no half file: the
-/// old one, if there is one, stays as it was. Nobody is told why.
+/// A StatementGenerator. Needs a QGuiApplication. A file that cannot be written whole is not
+/// written at all (only in a folder that lets files be changed but not made, it is written in
+/// place). Nobody is told why.
 bool generateStatementPdf(const StatementDocument &document, const QString &fileName,
                           StatementProgress &progress);

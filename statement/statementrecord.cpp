@@ -2,6 +2,8 @@
 
 #include "rules/functiontext.h"
 
+#include <algorithm>
+
 using namespace StatementFields;
 
 namespace {
@@ -17,6 +19,12 @@ const std::array<qint32 StatementRecord::*, 8> amounts = {
     &StatementRecord::sum,       &StatementRecord::tax,      &StatementRecord::shippingCharge,
     &StatementRecord::codCharge, &StatementRecord::totalSum, &StatementRecord::coupon,
     &StatementRecord::point,     &StatementRecord::payment};
+
+// A field finds its member by its number.
+static_assert(ProductName == texts.size());
+static_assert(Quantity - ProductName == textLists.size());
+static_assert(Sum - Quantity == numberLists.size());
+static_assert(Count - Sum == amounts.size());
 
 // Sums and products of damaged data must wrap, not overflow.
 qint32 wrapped(quint32 value)
@@ -37,6 +45,8 @@ bool StatementRecord::operator==(const StatementRecord &other) const
 
 void StatementRecord::setField(StatementFields::Field field, const QString &text)
 {
+    if (field < 0)
+        return;
     if (field < ProductName)
         this->*texts[size_t(field)] = text;
     else if (field < Quantity)

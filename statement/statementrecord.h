@@ -38,7 +38,8 @@ struct StatementRecord {
     bool operator==(const StatementRecord &other) const;
 
     /// Stores the text of one field as what the field is: a text, the one entry of a list, or an
-    /// integer. A text that is not a plain decimal integer gives 0.
+    /// integer. A text that is not a plain decimal integer gives 0. A number that is no field is
+    /// ignored.
     void setField(StatementFields::Field field, const QString &text);
 
     /// Adds the first product line of another record behind the own ones. Of a list that is empty
@@ -46,6 +47,7 @@ struct StatementRecord {
     void appendFirstLineOf(const StatementRecord &other);
 
     /// Fills in what the input did not give: subtotals, the sum of them, the total, the payment,
-    /// each from the ones before. An amount that is not 0 stays.
+    /// each from the ones before. An amount that is not 0 stays. The sum counts the entries of the
+    /// list of subtotals: where that field is not printed, the list lacks the first line's.
     void computeAmounts();
 };

@@ -42,8 +42,8 @@ private:
     QStringList m_missing;
 };
 
-/// Begins a test program: the machine's language must not matter (the C locale counts as UTF-8), and
-/// what cannot be tested here is said.
+/// Begins a test program: the machine's language must not matter (the C locale counts as UTF-8),
+/// and what cannot be tested here is said.
 inline void startInTheCLocale(const TestLocales &locales)
 {
     setlocale(LC_ALL, "C");

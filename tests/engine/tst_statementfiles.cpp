@@ -12,6 +12,7 @@ private slots:
     void outputOverAnInputFile();
     void oldStatementGoes_data();
     void oldStatementGoes();
+    void oldStatementThatStaysIsNotOpened();
     void outputThatIsAlsoTheStatementStays();
     void oldStatementIsNotTouchedWithoutStatements();
 
@@ -102,6 +103,17 @@ void TestStatementFiles::oldStatementGoes()
     QCOMPARE(runOn(threeOrders, generator), generator != &runOutOfMemory);
     QCOMPARE(m_folder->fileNames(),
              (QStringList{"orders.txt", "other.pdf", "out.csv", "quorinConverter.dat"}));
+    QCOMPARE(m_folder->read("out.csv"), QByteArray("number,who\n1,Kim\n2,Lee\n3,Min\n"));
+}
+
+// A viewer can hold an old statement so that nobody can replace or remove it.
+void TestStatementFiles::oldStatementThatStaysIsNotOpened()
+{
+    saveOrderSetting();
+    QVERIFY(QDir().mkpath("out.pdf/page")); // neither file nor empty
+    QVERIFY(runOn(threeOrders, failToSave));
+    QCOMPARE(m_reporter.log.mid(m_reporter.log.size() - 3),
+             (QStringList{"statement: ", "status: Converting succeeded.", "finished"}));
     QCOMPARE(m_folder->read("out.csv"), QByteArray("number,who\n1,Kim\n2,Lee\n3,Min\n"));
 }
 

@@ -9,7 +9,7 @@ namespace {
 // With the length: a text may hold a zero.
 QString toText(const QByteArray &bytes)
 {
-    return QString::fromUtf8(bytes.constData(), bytes.size());
+    return QString::fromUtf8(bytes.constData(), qMax(0, bytes.size()));
 }
 
 QByteArray outputOf(const char *program, const QStringList &arguments)

@@ -727,6 +727,9 @@ void TestStatementHtml::styleSheet_data()
                                  << "*{font-size:10px;font-family:'맑은 고딕';}";
     QTest::newRow("no name") << ""
                              << "*{font-size:10px;font-family:'';}";
+    QTest::newRow("name that would end the quotes")
+        << "A';}td{color:red;}\\"
+        << "*{font-size:10px;font-family:'A;}td{color:red;}';}";
 }
 
 void TestStatementHtml::styleSheet()
