@@ -78,6 +78,11 @@ void CsvWriter::writeBuffer()
     const QByteArray bytes =
         m_codec->fromUnicode(QStringView(m_buffer.data(), qsizetype(m_buffer.size())));
     m_buffer.clear();
-    if (!m_failed && m_device.write(bytes) != bytes.size())
-        m_failed = true;
+    // A device that is full takes a part first, and only says why it takes no more when asked
+    // again.
+    for (qint64 written = 0; !m_failed && written < bytes.size();) {
+        const qint64 size = m_device.write(bytes.constData() + written, bytes.size() - written);
+        m_failed = size <= 0;
+        written += size;
+    }
 }

@@ -29,6 +29,14 @@ void appendFamilies(QStringList &families, QFontDatabase::WritingSystem writingS
     families.append(installed);
 }
 
+/// A font of pictures has some at the places of letters.
+bool isSymbolFont(const QString &family)
+{
+    const QList<QFontDatabase::WritingSystem> systems = QFontDatabase().writingSystems(family);
+    // Latin is believed of every font.
+    return systems.contains(QFontDatabase::Symbol) && systems.size() <= 2;
+}
+
 } // namespace
 
 QStringList cjkFamilies(QLocale::Language language)
@@ -45,7 +53,8 @@ QStringList cjkFamilies(QLocale::Language language)
 
 QString prepareStatementFont(const QString &chosen, QLocale::Language language)
 {
-    QString family = chosen.isEmpty() ? QGuiApplication::font().family() : chosen;
+    const bool isUsable = !chosen.isEmpty() && !isSymbolFont(chosen);
+    QString family = isUsable ? chosen : QGuiApplication::font().family();
     QStringList substitutes = cjkFamilies(language);
     substitutes.removeAll(family);
     QFont::insertSubstitutions(family, substitutes); // adds those that are not there yet

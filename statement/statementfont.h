@@ -8,7 +8,8 @@
 /// or else Korean) first, in each language those that are made for reading first.
 QStringList cjkFamilies(QLocale::Language language);
 
-/// The family to print with: the chosen one, or the program's own where none is chosen. From now on
+/// The family to print with: the chosen one, or the program's own where none is chosen or
+/// the chosen one has pictures for letters. From now on
 /// the families above stand in for it in the whole program, letter by letter, where it lacks a
 /// letter or is not installed; the language of the first call decides their order.
 QString prepareStatementFont(const QString &chosen, QLocale::Language language);

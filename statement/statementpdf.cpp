@@ -2,6 +2,7 @@
 
 #include "statement/composedtext.h"
 #include "statement/pagegeometry.h"
+#include "statement/searchabletext.h"
 #include "statement/statementfont.h"
 #include "statement/statementhtml.h"
 #include "statement/statementtexts.h"
@@ -51,9 +52,10 @@ QFont paperFont(const QString &family, int pixels, QFont::Weight weight = QFont:
 class PagePainter
 {
 public:
-    PagePainter(const StatementDocument &statement, const PageGeometry &page, QPainter &painter)
+    PagePainter(const StatementDocument &statement, const PageGeometry &page, QPainter &painter,
+                UsedCharacters &used)
         : m_statement(statement), m_printed(statement.data.printed()), m_page(page),
-          m_painter(painter), m_html(m_printed)
+          m_painter(painter), m_used(used), m_html(m_printed)
     {
         const QString family =
             prepareStatementFont(statement.fontFamily, QLocale::system().language());
@@ -98,14 +100,17 @@ private:
 
     void drawText(const QRect &box, int flags, const QFont &font, const QString &text)
     {
+        const QString shown = composed(text);
+        m_used.add(shown);
         m_painter.setFont(font);
-        m_painter.drawText(box, flags, composed(text));
+        m_painter.drawText(box, flags, shown);
     }
 
     void drawOrder(const StatementRecord &record)
     {
         const QRect box = m_page.orderBox();
         m_order.setHtml(m_html.html(record));
+        m_used.add(m_order.toPlainText());
         QAbstractTextDocumentLayout::PaintContext context;
         // The desktop may be a dark one, paper is not.
         context.palette.setColor(QPalette::Text, Qt::black);
@@ -121,6 +126,7 @@ private:
     const StatementFlags &m_printed;
     const PageGeometry m_page;
     QPainter &m_painter;
+    UsedCharacters &m_used;
     const StatementHtml m_html;
     QFont m_titleFont;
     QFont m_textFont;
@@ -131,7 +137,9 @@ private:
 /// Paints all pages; false when the device takes nothing at all.
 bool paintPages(const StatementDocument &statement, QIODevice &device, StatementProgress &progress)
 {
-    QPdfWriter writer(&device);
+    UsedCharacters used;
+    SearchableTextDevice searchable(device, used);
+    QPdfWriter writer(&searchable);
     writer.setResolution(PageGeometry::resolution);
     const qreal margin = PageGeometry::margin;
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
@@ -142,7 +150,7 @@ bool paintPages(const StatementDocument &statement, QIODevice &device, Statement
     QPainter painter;
     if (!painter.begin(&writer))
         return false;
-    PagePainter pages(statement, geometryOf(writer), painter);
+    PagePainter pages(statement, geometryOf(writer), painter, used);
     for (int i = 0; i < statement.data.count(); ++i) {
         if (i > 0)
             writer.newPage();
@@ -158,8 +166,9 @@ bool paintPages(const StatementDocument &statement, QIODevice &device, Statement
 bool generateStatementPdf(const StatementDocument &document, const QString &fileName,
                           StatementProgress &progress)
 {
-    // The writer does not say that a disk is full, but the file remembers it.
+    // The writer does not say that a disk is full, but the file remembers it, the last of its
+    // buffer only when it is flushed by itself.
     QSaveFile file(fileName);
-    file.setDirectWriteFallback(true);
-    return file.open(QIODevice::WriteOnly) && paintPages(document, file, progress) && file.commit();
+    return file.open(QIODevice::WriteOnly) && paintPages(document, file, progress) && file.flush()
+        && file.commit();
 }

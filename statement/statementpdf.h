@@ -4,7 +4,6 @@
 #include "statement/statementdocument.h"
 
 /// A StatementGenerator. Needs a QGuiApplication. A file that cannot be written whole is not
-/// written at all (only in a folder that lets files be changed but not made, it is written in
-/// place). Nobody is told why.
+/// written at all. Nobody is told why.
 bool generateStatementPdf(const StatementDocument &document, const QString &fileName,
                           StatementProgress &progress);

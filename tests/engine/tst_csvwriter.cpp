@@ -117,7 +117,10 @@ protected:
     {
         const qint64 taken = qMin(size, m_room);
         m_room -= taken;
-        return taken > 0 || size == 0 ? taken : -1;
+        if (taken > 0 || size == 0)
+            return taken;
+        setErrorString("full");
+        return -1;
     }
 
 private:
@@ -381,6 +384,9 @@ void TestCsvWriter::tellsThatTheDiskIsFull()
     }
     QTEST(writer.flush(), "fits");
     QTEST(writer.flush(), "fits"); // a failure is not forgotten
+    QFETCH(bool, fits);
+    if (!fits)
+        QCOMPARE(device.errorString(), QString("full")); // also where a part still went in
 }
 
 QTEST_GUILESS_MAIN(TestCsvWriter)
