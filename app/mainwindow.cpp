@@ -2,7 +2,11 @@
 
 #include "app/platform.h"
 #include "app/weblinks.h"
+#include "common/lastdirectory.h"
+#include "editor/configdialog.h"
+#include "editor/convertsettingdialog.h"
 #include "engine/conversionrun.h"
+#include "resources/icons.h"
 #include "settings/convertsettings.h"
 #include "statement/statementpdf.h"
 #include "ui_mainwindow.h"
@@ -20,42 +24,16 @@
 #include <QTextDocument>
 #include <cstdlib>
 
-// Resources in a static library are only linked when someone asks for them; the macro must stand
-// outside every namespace.
-static void initIcons()
-{
-    Q_INIT_RESOURCE(icons);
-}
-
 namespace {
-
-QString lastDirectoryKey()
-{
-    return QStringLiteral("last directory");
-}
 
 QString positionKey()
 {
     return QStringLiteral("pos");
 }
 
-/// Where the file dialogs open.
-QString lastDirectory()
-{
-    const QString folder = QSettings().value(lastDirectoryKey()).toString();
-    return folder.isEmpty() ? QDir::homePath() : folder;
-}
-
-// Of the folder, not of the file: an output file need not exist yet, and an input file may be a
-// link to somewhere else.
 QString canonicalFolder(const QString &file)
 {
     return QFileInfo(file).dir().canonicalPath();
-}
-
-void rememberDirectory(const QString &file)
-{
-    QSettings().setValue(lastDirectoryKey(), canonicalFolder(file));
 }
 
 /// The output file for an input file: beside it, with "_output.csv" for its extension.
@@ -296,6 +274,31 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::on_printButton_clicked()
 {
     QDesktopServices::openUrl(localFileUrl(m_statementFile));
+}
+
+void MainWindow::on_configButton_clicked()
+{
+    const int row = ui->convertSetting->currentIndex();
+    if (row < 0)
+        return;
+    auto *dialog = new ConvertSettingDialog(m_settingNames, this);
+    dialog->loadSetting(m_settingNames->index(row));
+    dialog->showAndForget();
+}
+
+void MainWindow::on_action_company_config_triggered()
+{
+    manageSettings();
+}
+
+void MainWindow::on_action_convert_config_triggered()
+{
+    manageSettings();
+}
+
+void MainWindow::manageSettings()
+{
+    (new ConfigDialog(m_settingNames, this))->showAndForget();
 }
 
 void MainWindow::on_openFolderButton_clicked()

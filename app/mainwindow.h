@@ -30,6 +30,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
+    void on_action_company_config_triggered();
     void add_file();
     void del_file();
     void set_file();
@@ -37,6 +38,8 @@ private slots:
     /// Whether a conversion can start, shown by what is enabled.
     void checkFields();
     void on_printButton_clicked();
+    void on_configButton_clicked();
+    void on_action_convert_config_triggered();
     void on_action_velmora_triggered();
     void on_openFolderButton_clicked();
     /// Asks whether to update; on Yes the process ends here.
@@ -48,6 +51,7 @@ private:
     void restorePosition();
     void loadSettingNames();
     void createProgressBar();
+    void manageSettings();
 
     QStringList inputFiles() const;
     /// Takes a choice of files, from the dialog or dropped; at least one.

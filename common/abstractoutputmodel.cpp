@@ -26,6 +26,11 @@ bool AbstractOutputModel::canDropMimeData(const QMimeData *data, Qt::DropAction 
 bool AbstractOutputModel::dropMimeData(const QMimeData *data, Qt::DropAction action, int row,
                                        int column, const QModelIndex &parent)
 {
-    return canDropMimeData(data, action, row, column, parent)
-        && addDroppedItems(parent, decodeDragItems(*data));
+    if (!canDropMimeData(data, action, row, column, parent))
+        return false;
+    const QList<DragItem> items = decodeDragItems(*data);
+    if (!addDroppedItems(parent, items))
+        return false;
+    emit itemsDropped(parent, items.size());
+    return true;
 }

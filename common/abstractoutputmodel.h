@@ -32,6 +32,8 @@ public:
 signals:
     /// The model has changed the data of this cell.
     void itemChanged(const QModelIndex &index);
+    /// The cell has taken so many dropped items behind those that it had.
+    void itemsDropped(const QModelIndex &index, int count);
 
 protected:
     /// Adds dropped items to a cell that accepts drops; returns whether it has.

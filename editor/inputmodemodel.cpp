@@ -18,9 +18,15 @@ int InputModeModel::columnCount(const QModelIndex &parent) const
 
 QVariant InputModeModel::data(const QModelIndex &index, int role) const
 {
-    if (role != Qt::DisplayRole || !hasIndex(index.row(), index.column()))
+    if (!hasIndex(index.row(), index.column()))
         return QVariant();
-    return m_table.value(index.row(), index.column());
+    const QString text = m_table.value(index.row(), index.column());
+    if (role == Qt::DisplayRole)
+        return text;
+    // A cell that shows nothing still says where it stands.
+    if (role == Qt::AccessibleTextRole && text.isEmpty())
+        return columnLabel(index.column());
+    return QVariant();
 }
 
 QVariant InputModeModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -115,14 +121,19 @@ void InputModeModel::load(const QString &settingName)
     endResetModel();
 }
 
-void InputModeModel::save(const QString &settingName) const
+InputSetting InputModeModel::setting() const
 {
     InputSetting input;
     input.heads = m_table.rowTexts(ItemRow);
     input.ex1 = m_table.rowTexts(FirstExampleRow);
     input.ex2 = m_table.rowTexts(SecondExampleRow);
     input.files = m_forms;
-    saveInputSetting(settingName, input);
+    return input;
+}
+
+void InputModeModel::save(const QString &settingName) const
+{
+    saveInputSetting(settingName, setting());
 }
 
 void InputModeModel::addFirstForm(const SampleFile &sample)

@@ -48,6 +48,8 @@ public:
     /// Drops all items and all forms.
     void clear();
     void load(const QString &settingName);
+    /// The items, the examples and the forms as a setting keeps them.
+    InputSetting setting() const;
     void save(const QString &settingName) const;
 
     /// Begins anew with the items, the examples and the form of this sample.

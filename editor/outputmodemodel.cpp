@@ -127,6 +127,11 @@ QVariant OutputModeModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
     case Qt::StatusTipRole:
         return tr(rowTexts[row].tip).arg(item.name);
+    case Qt::AccessibleTextRole:
+        // A text that is shown is read out by itself.
+        if (displayData(item, row).toString().isEmpty())
+            return tr(rowTexts[row].tip).arg(item.name);
+        return QVariant();
     case Qt::CheckStateRole:
         if (row == DistinctRow)
             return item.isDistinct() ? Qt::Checked : Qt::Unchecked;

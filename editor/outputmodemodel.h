@@ -29,6 +29,7 @@ public:
     bool setMappings(const QModelIndex &index, const QList<int> &positions,
                      const QString &separator) override;
 
+    const QList<OutputItem> &items() const { return m_items; }
     /// An empty item for a column that is not there.
     OutputItem item(int column) const { return m_items.value(column); }
     /// Every change of an item goes through here; the cells that show it are reported. Like the

@@ -6,8 +6,7 @@
 static InputSetting readInputSetting(const QString &settingName)
 {
     Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    const GroupScope setting(settings, settingName);
+    const GroupScope setting(settings, settingGroup(settingName));
     const GroupScope inputGroup(settings, QStringLiteral("input"));
 
     InputSetting input;
@@ -37,8 +36,12 @@ InputSetting loadInputSetting(const QString &settingName)
 void saveInputSetting(const QString &settingName, const InputSetting &input)
 {
     Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    const GroupScope setting(settings, settingName);
+    saveInputSetting(settings, settingName, input);
+}
+
+void saveInputSetting(QSettings &settings, const QString &settingName, const InputSetting &input)
+{
+    const GroupScope setting(settings, settingGroup(settingName));
     const GroupScope inputGroup(settings, QStringLiteral("input"));
 
     settings.setValue(QStringLiteral("heads"), input.heads);

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QStringList>
 
+class QSettings;
+
 /// One expected input file, recognised by its headings.
 struct InputForm {
     QString name;      ///< file name of the sample it was made from, without extension
@@ -38,3 +40,5 @@ InputSetting loadInputSetting(const QString &settingName);
 /// Writes the input part of the named setting. Entries of a longer list that stood there before
 /// stay in the file, beyond the written size.
 void saveInputSetting(const QString &settingName, const InputSetting &input);
+/// The same as a part of what is written to the file when the settings object is destroyed.
+void saveInputSetting(QSettings &settings, const QString &settingName, const InputSetting &input);

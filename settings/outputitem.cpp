@@ -60,8 +60,7 @@ void OutputItem::removeCondition(int index)
 static QList<OutputItem> readOutputItems(const QString &settingName)
 {
     Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    const GroupScope setting(settings, settingName);
+    const GroupScope setting(settings, settingGroup(settingName));
 
     const auto text = [&settings](const char *key) {
         return settings.value(QLatin1String(key)).toString();
@@ -103,8 +102,13 @@ QList<OutputItem> loadOutputItems(const QString &settingName)
 void saveOutputItems(const QString &settingName, const QList<OutputItem> &items)
 {
     Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    const GroupScope setting(settings, settingName);
+    saveOutputItems(settings, settingName, items);
+}
+
+void saveOutputItems(QSettings &settings, const QString &settingName,
+                     const QList<OutputItem> &items)
+{
+    const GroupScope setting(settings, settingGroup(settingName));
 
     settings.beginWriteArray(QStringLiteral("output"), items.size());
     for (int i = 0; i < items.size(); ++i) {

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QStringList>
 
+class QSettings;
+
 /// Where a value of an output item comes from.
 enum SourceKind {
     CompanySource = 0, ///< a field of the company information, by its number
@@ -55,3 +57,6 @@ QList<OutputItem> loadOutputItems(const QString &settingName);
 /// Writes the output items of the named setting. Entries of a longer list that stood there before
 /// stay in the file, beyond the written size.
 void saveOutputItems(const QString &settingName, const QList<OutputItem> &items);
+/// The same as a part of what is written to the file when the settings object is destroyed.
+void saveOutputItems(QSettings &settings, const QString &settingName,
+                     const QList<OutputItem> &items);

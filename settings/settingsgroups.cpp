@@ -4,11 +4,45 @@ namespace {
 
 const int greatestArraySize = 100000;
 
+const QChar slash = QLatin1Char('/');
+const QChar nul = QLatin1Char('\0');
+
+bool isOnlyNuls(const QString &text)
+{
+    return text.count(nul) == text.size();
+}
+
 } // namespace
 
 QString settingInfoGroup()
 {
     return QStringLiteral("SettingInfo");
+}
+
+// An empty step becomes one NUL. A step of NULs becomes longer by one, lest it be taken for it.
+QString settingPath(const QString &settingName)
+{
+    QStringList steps = settingName.split(slash);
+    for (QString &step : steps) {
+        if (isOnlyNuls(step))
+            step.append(nul);
+    }
+    return steps.join(slash);
+}
+
+QString settingNameOfPath(const QString &path)
+{
+    QStringList steps = path.split(slash);
+    for (QString &step : steps) {
+        if (isOnlyNuls(step))
+            step.chop(1);
+    }
+    return steps.join(slash);
+}
+
+QString settingGroup(const QString &settingName)
+{
+    return settingInfoGroup() + slash + settingPath(settingName);
 }
 
 int beginBoundedReadArray(QSettings &settings, const QString &array)

@@ -33,8 +33,19 @@ template <typename Work> auto tolerantly(Work work) -> decltype(work())
     }
 }
 
-/// The group that holds one child group for each convert setting.
+/// The group that holds the groups of all convert settings.
 QString settingInfoGroup();
+
+/// The path of a convert setting's group inside that group. The library takes a "/" in a name for a
+/// step into a nested group, and would drop one without a name before and behind it: such a step
+/// gets a name that nobody types, so that "/a", "a/" and "a//b" stay apart from "a" and "a/b".
+QString settingPath(const QString &settingName);
+
+/// The reverse: the name of the setting with this path.
+QString settingNameOfPath(const QString &path);
+
+/// The path of a convert setting's group from the top of the file.
+QString settingGroup(const QString &settingName);
 
 /// Begins to read an array and returns how many entries to read. The size of a damaged file, which
 /// may be anything, is bounded by a hundred thousand, so that no caller loops without end.

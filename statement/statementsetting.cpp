@@ -69,8 +69,7 @@ void writeField(QSettings &settings, const StatementField &field)
 StatementSetting readStatementSetting(const QString &settingName)
 {
     Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    const GroupScope setting(settings, settingName);
+    const GroupScope setting(settings, settingGroup(settingName));
 
     StatementSetting statement;
     {
@@ -107,8 +106,13 @@ StatementSetting loadStatementSetting(const QString &settingName)
 void saveStatementSetting(const QString &settingName, const StatementSetting &statement)
 {
     Settings settings(nullptr);
-    const GroupScope settingInfo(settings, settingInfoGroup());
-    const GroupScope setting(settings, settingName);
+    saveStatementSetting(settings, settingName, statement);
+}
+
+void saveStatementSetting(QSettings &settings, const QString &settingName,
+                          const StatementSetting &statement)
+{
+    const GroupScope setting(settings, settingGroup(settingName));
     {
         const GroupScope pdfSetting(settings, pdfSettingGroup());
         writeTexts(settings, statement);

@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <array>
 
+class QSettings;
+
 /// One field of the statement. `mappings` and `mapNums` are parallel.
 struct StatementField {
     bool toPrint = false;
@@ -42,3 +44,6 @@ StatementSetting loadStatementSetting(const QString &settingName);
 /// Writes every key of the statement part of the named setting, of fields that are not printed,
 /// too.
 void saveStatementSetting(const QString &settingName, const StatementSetting &statement);
+/// The same as a part of what is written to the file when the settings object is destroyed.
+void saveStatementSetting(QSettings &settings, const QString &settingName,
+                          const StatementSetting &statement);

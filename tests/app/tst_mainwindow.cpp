@@ -65,14 +65,14 @@ void TestMainWindow::actionsHaveTheirTextsAndIcons_data()
     // clang-format off
     QTest::newRow("action_add")            << "입력파일 추가"   << "입력파일을 추가합니다"        << "add"         << "Ctrl+O"      << true;
     QTest::newRow("action_set")            << "출력파일 지정"   << "출력파일을 지정합니다"        << "folder"      << "Ctrl+S"      << true;
-    QTest::newRow("action_company_config") << "회사정보설정"    << "회사정보를 설정합니다"        << "cog"         << ""            << false;
+    QTest::newRow("action_company_config") << "회사정보설정"    << "회사정보를 설정합니다"        << "cog"         << ""            << true;
     QTest::newRow("action_exit")           << "프로그램 종료"   << "프로그램을 종료합니다"        << "exit"        << "Ctrl+Q"      << true;
     QTest::newRow("action_info")           << "쿼린컨버터 정보" << "쿼린컨버터 정보를 보여줍니다" << "information" << ""            << false;
     QTest::newRow("action_convert")        << "파일 변환"       << "파일을 변환합니다"            << "replace"     << "Ctrl+Return" << false;
     QTest::newRow("action_print")          << "명세서 출력"     << "생성된 명세서를 출력합니다."  << "printer"     << ""            << false;
     QTest::newRow("action_help")           << "도움말"          << "도움말을 실행합니다"          << "help"        << "F1"          << true;
     QTest::newRow("action_velmora")        << "벨모라"          << "벨모라 홈페이지로 연결합니다" << "velmora"     << ""            << true;
-    QTest::newRow("action_convert_config") << "변환설정"        << "변환설정을 관리합니다"        << "table_gear"  << ""            << false;
+    QTest::newRow("action_convert_config") << "변환설정"        << "변환설정을 관리합니다"        << "table_gear"  << ""            << true;
     // clang-format on
 }
 
@@ -103,7 +103,7 @@ void TestMainWindow::widgetsHaveTheirTextsAndIcons_data()
     QTest::newRow("addButton")        << "QPushButton" << ""               << "입력파일을 추가합니다"                << "입력파일을 추가합니다"          << "add"        << true;
     QTest::newRow("removeButton")     << "QPushButton" << ""               << "선택된 입력파일을 제외합니다"         << "선택된 입력파일을 제외합니다"   << "delete"     << true;
     QTest::newRow("convertSetting")   << "QComboBox"   << ""               << "변환에 사용할 설정을 선택합니다"      << "변환설정"                       << ""           << true;
-    QTest::newRow("configButton")     << "QPushButton" << ""               << "선택된 설정을 수정합니다"             << "선택된 설정을 수정합니다"       << "table_gear" << false;
+    QTest::newRow("configButton")     << "QPushButton" << ""               << "선택된 설정을 수정합니다"             << "선택된 설정을 수정합니다"       << "table_gear" << true;
     QTest::newRow("targetFile")       << "QLineEdit"   << ""               << "출력파일을 지정합니다"                << ""                               << ""           << true;
     QTest::newRow("setButton")        << "QPushButton" << ""               << "출력파일을 지정합니다"                << "출력파일을 지정합니다"          << "folder"     << true;
     QTest::newRow("convertButton")    << "QPushButton" << "변환"           << "파일을 변환합니다"                    << ""                               << "replace"    << false;
@@ -222,9 +222,12 @@ void TestMainWindow::slotsKeepTheirOrder()
     }
     QCOMPARE(
         names,
-        (QStringList{QStringLiteral("add_file()"), QStringLiteral("del_file()"),
+        (QStringList{QStringLiteral("on_action_company_config_triggered()"),
+                     QStringLiteral("add_file()"), QStringLiteral("del_file()"),
                      QStringLiteral("set_file()"), QStringLiteral("convert_file()"),
                      QStringLiteral("checkFields()"), QStringLiteral("on_printButton_clicked()"),
+                     QStringLiteral("on_configButton_clicked()"),
+                     QStringLiteral("on_action_convert_config_triggered()"),
                      QStringLiteral("on_action_velmora_triggered()"),
                      QStringLiteral("on_openFolderButton_clicked()"),
                      QStringLiteral("updateAlert(QString,QString)"),

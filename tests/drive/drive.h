@@ -4,25 +4,21 @@
 
 #include "tests/drive/conversionlist.h"
 
-#include <functional>
-
 class QMainWindow;
+class Walk;
 
 class Drive
 {
 public:
-    Drive(QMainWindow &window, const QString &screenshotFolder);
+    explicit Drive(Walk &walk);
 
-    /// Walks the whole way and prints the path of every output file, statement page and
-    /// screenshot. The first thing
-    /// that is not as expected ends the walk: it is printed, the screen is kept in a last
-    /// screenshot, and the answer is false.
+    /// Walks the whole way, closes the window and prints the path of every output file, statement
+    /// page and screenshot. The first thing that is not as expected ends the walk: it is printed,
+    /// and the answer is false.
     bool run(const QList<Conversion> &conversions);
 
 private:
-    bool walk(const QList<Conversion> &conversions);
     bool convert(const Conversion &conversion);
-    bool showFileMenu();
     bool addInputFiles(const QStringList &files);
     bool chooseSetting(const QString &settingName);
     bool chooseOutputFile(const QString &file);
@@ -33,19 +29,9 @@ private:
     bool removeInputFiles();
     bool quit();
 
-    /// Answers the file dialog that a button opens.
-    bool answerFileDialog(const QString &buttonName, const QString &answer);
-    bool click(const QString &objectName);
-    bool takeScreenshot(const QString &name);
-
-    /// Waits for a condition that is looked at in the window's thread.
-    bool waitFor(const QString &what, const std::function<bool()> &condition);
-    bool fail(const QString &text);
-
     QStringList listedFiles() const;
     QString targetFile() const;
 
+    Walk &m_walk;
     QMainWindow &m_window;
-    const QString m_screenshotFolder;
-    int m_screenshotCount = 0;
 };

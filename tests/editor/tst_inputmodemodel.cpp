@@ -92,6 +92,7 @@ private slots:
     void formNames();
 
     void isEmptyAtFirst();
+    void emptyCellsSayWhereTheyStand();
     void theFirstForm_data();
     void theFirstForm();
     void theFirstFormBeginsAnew();
@@ -249,6 +250,15 @@ void TestInputModeModel::isEmptyAtFirst()
     QCOMPARE(model.columnCount(), 0);
     QCOMPARE(model.items(), QStringList());
     QCOMPARE(model.formTexts(), QStringList());
+}
+
+// A screen reader would say nothing of them.
+void TestInputModeModel::emptyCellsSayWhereTheyStand()
+{
+    Input model;
+    model.addFirstForm(sampleOf("orders", {"a|b|c", "1||3"}));
+    QCOMPARE(model.index(1, 1).data(Qt::AccessibleTextRole), QVariant("B"));
+    QCOMPARE(model.index(1, 2).data(Qt::AccessibleTextRole), QVariant());
 }
 
 void TestInputModeModel::theFirstForm_data()

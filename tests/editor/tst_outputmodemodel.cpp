@@ -168,6 +168,14 @@ void TestOutputModeModel::data_data()
         QTest::addRow("status tip of row %d", tip.first)
             << full << tip.first << int(Qt::StatusTipRole) << QVariant(tip.second);
     }
+    QTest::newRow("a cell that shows a text is read out as it stands")
+        << full << 1 << int(Qt::AccessibleTextRole) << nothing;
+    QTest::newRow("a check box says what it is for")
+        << full << 4 << int(Qt::AccessibleTextRole)
+        << QVariant("Check to delete duplication for 'name 0'");
+    QTest::newRow("an empty cell says what it is for")
+        << empty << 3 << int(Qt::AccessibleTextRole)
+        << QVariant("Double click to edit rules for ''");
     QTest::newRow("tip of an item without a name")
         << empty << 0 << int(Qt::ToolTipRole) << QVariant("Double click to edit ''");
     QTest::newRow("tip of an item whose name looks like a place")
