@@ -1,6 +1,7 @@
 // Quorin Converter: turns the order exports of web shops into the CSV file that a carrier takes.
 #include "app/mainwindow.h"
 #include "app/startup.h"
+#include "update/programversion.h"
 
 #include <QApplication>
 #include <QTranslator>
@@ -11,7 +12,7 @@ int main(int argc, char *argv[])
     const QString languageName = systemLanguageName();
 
     QApplication application(argc, argv);
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.00"));
+    QCoreApplication::setApplicationVersion(programVersion());
 
     QTranslator translator;
     installTranslation(translator, languageName);

@@ -1,7 +1,6 @@
 #include "app/mainwindow.h"
 
 #include "app/platform.h"
-#include "app/weblinks.h"
 #include "common/lastdirectory.h"
 #include "editor/configdialog.h"
 #include "editor/convertsettingdialog.h"
@@ -10,6 +9,9 @@
 #include "settings/convertsettings.h"
 #include "statement/statementpdf.h"
 #include "ui_mainwindow.h"
+#include "update/infodialog.h"
+#include "update/makersite.h"
+#include "update/updater.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -59,6 +61,7 @@ MainWindow::MainWindow(QWidget *parent)
 {
     initIcons();
     ui->setupUi(this);
+    checkForUpdate();
     ui->statusBar->setSizeGripEnabled(false);
     // Nothing else keeps the progress bar off the window's edge without the grip.
     ui->statusBar->setContentsMargins(4, 0, 8, 0);
@@ -69,6 +72,13 @@ MainWindow::MainWindow(QWidget *parent)
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::checkForUpdate()
+{
+    auto *updater = new Updater(this);
+    connect(updater, &Updater::updateAvailable, this, &MainWindow::updateAlert);
+    updater->check();
+}
 
 void MainWindow::restorePosition()
 {
@@ -106,6 +116,7 @@ void MainWindow::connectForm()
     connect(ui->setButton, &QPushButton::clicked, this, &MainWindow::set_file);
     connect(ui->action_convert, &QAction::triggered, this, &MainWindow::convert_file);
     connect(ui->convertButton, &QPushButton::clicked, this, &MainWindow::convert_file);
+    connect(ui->action_info, &QAction::triggered, this, &MainWindow::info_dialog);
     connect(ui->action_print, &QAction::triggered, this, &MainWindow::on_printButton_clicked);
     connect(ui->targetFile, &QLineEdit::textChanged, this, &MainWindow::checkFields);
     connect(ui->convertSetting, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -210,6 +221,18 @@ void MainWindow::convert_file()
     m_progressBar->hide(); // a full bar would look like success
     // Only now, when the run has closed its files and no wait cursor lies over the box.
     reportError(m_runError);
+}
+
+void MainWindow::info_dialog()
+{
+    auto *dialog = findChild<InfoDialog *>();
+    if (dialog == nullptr) {
+        dialog = new InfoDialog(this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
 }
 
 void MainWindow::reportError(const QString &text)

@@ -35,6 +35,7 @@ private slots:
     void del_file();
     void set_file();
     void convert_file();
+    void info_dialog();
     /// Whether a conversion can start, shown by what is enabled.
     void checkFields();
     void on_printButton_clicked();
@@ -48,6 +49,7 @@ private slots:
 
 private:
     void connectForm();
+    void checkForUpdate();
     void restorePosition();
     void loadSettingNames();
     void createProgressBar();

@@ -1,6 +1,6 @@
 #include "app/startup.h"
 
-#include "app/weblinks.h"
+#include "update/makersite.h"
 
 #include <QApplication>
 #include <QLocale>

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
+#include <QNetworkProxy>
 #include <QPushButton>
 #include <QSettings>
 #include <QtTest>
@@ -61,6 +62,8 @@ int MainWindowTest::run(MainWindowTest &test, int argc, char *argv[])
 
 void MainWindowTest::init()
 {
+    // Every window asks for the latest version; nothing listens where the question goes.
+    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 9});
     m_warnings.emplace();
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());

@@ -67,7 +67,7 @@ void TestMainWindow::actionsHaveTheirTextsAndIcons_data()
     QTest::newRow("action_set")            << "출력파일 지정"   << "출력파일을 지정합니다"        << "folder"      << "Ctrl+S"      << true;
     QTest::newRow("action_company_config") << "회사정보설정"    << "회사정보를 설정합니다"        << "cog"         << ""            << true;
     QTest::newRow("action_exit")           << "프로그램 종료"   << "프로그램을 종료합니다"        << "exit"        << "Ctrl+Q"      << true;
-    QTest::newRow("action_info")           << "쿼린컨버터 정보" << "쿼린컨버터 정보를 보여줍니다" << "information" << ""            << false;
+    QTest::newRow("action_info")           << "쿼린컨버터 정보" << "쿼린컨버터 정보를 보여줍니다" << "information" << ""            << true;
     QTest::newRow("action_convert")        << "파일 변환"       << "파일을 변환합니다"            << "replace"     << "Ctrl+Return" << false;
     QTest::newRow("action_print")          << "명세서 출력"     << "생성된 명세서를 출력합니다."  << "printer"     << ""            << false;
     QTest::newRow("action_help")           << "도움말"          << "도움말을 실행합니다"          << "help"        << "F1"          << true;
@@ -220,18 +220,18 @@ void TestMainWindow::slotsKeepTheirOrder()
         if (meta->method(index).methodType() == QMetaMethod::Slot)
             names.append(QString::fromLatin1(meta->method(index).methodSignature()));
     }
-    QCOMPARE(
-        names,
-        (QStringList{QStringLiteral("on_action_company_config_triggered()"),
-                     QStringLiteral("add_file()"), QStringLiteral("del_file()"),
-                     QStringLiteral("set_file()"), QStringLiteral("convert_file()"),
-                     QStringLiteral("checkFields()"), QStringLiteral("on_printButton_clicked()"),
-                     QStringLiteral("on_configButton_clicked()"),
-                     QStringLiteral("on_action_convert_config_triggered()"),
-                     QStringLiteral("on_action_velmora_triggered()"),
-                     QStringLiteral("on_openFolderButton_clicked()"),
-                     QStringLiteral("updateAlert(QString,QString)"),
-                     QStringLiteral("on_action_help_triggered()")}));
+    QCOMPARE(names,
+             (QStringList{QStringLiteral("on_action_company_config_triggered()"),
+                          QStringLiteral("add_file()"), QStringLiteral("del_file()"),
+                          QStringLiteral("set_file()"), QStringLiteral("convert_file()"),
+                          QStringLiteral("info_dialog()"), QStringLiteral("checkFields()"),
+                          QStringLiteral("on_printButton_clicked()"),
+                          QStringLiteral("on_configButton_clicked()"),
+                          QStringLiteral("on_action_convert_config_triggered()"),
+                          QStringLiteral("on_action_velmora_triggered()"),
+                          QStringLiteral("on_openFolderButton_clicked()"),
+                          QStringLiteral("updateAlert(QString,QString)"),
+                          QStringLiteral("on_action_help_triggered()")}));
 }
 
 void TestMainWindow::iconOnlyButtonsAreSquare()

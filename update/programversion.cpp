@@ -1,0 +1,6 @@
+#include "update/programversion.h"
+
+QString programVersion()
+{
+    return QStringLiteral(QUORIN_VERSION);
+}
