@@ -15,7 +15,7 @@ class Updater : public QObject
 public:
     /// The most bytes that are taken of a reply; a longer one ends the check. The document has some
     /// hundred bytes, but the memory of the program is not the sender's.
-    static constexpr qint64 largestReply = 64 * 1024 * 1024;
+    static constexpr qint64 largestReply = qint64(64) << 20;
 
     explicit Updater(QObject *parent = nullptr, const QUrl &document = latestVersionUrl());
 
