@@ -282,7 +282,7 @@ void ConvertSettingDialog::outputItemChanged(const QModelIndex &index)
     ui->outputModeView->fitToContents(index);
 }
 
-// A condition without a text holds nothing back yet, so it is asked for at once.
+// A condition without a text never holds, so it is asked for at once.
 void ConvertSettingDialog::editConditionAfterDrop(const QModelIndex &index, int count)
 {
     if (index.row() != OutputModeModel::ConditionsRow)

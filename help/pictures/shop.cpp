@@ -25,10 +25,10 @@ Shop koreanShop()
     shop.company = loadCompanyInfo(); // the samples' own
     shop.firstHeads = QStringList{QStringLiteral("주문번호"), QStringLiteral("주문일시"),
                                   QStringLiteral("고객명"), QStringLiteral("고객 메일")};
-    shop.secondHeads = QStringList{QStringLiteral("결제일시"), QStringLiteral("주문번호"),
+    shop.secondHeads = QStringList{QStringLiteral("주문번호"), QStringLiteral("결제일시"),
                                    QStringLiteral("결제수단"), QStringLiteral("결제금액")};
     shop.firstKey = 0;
-    shop.secondKey = 1;
+    shop.secondKey = 0;
     shop.itemWithConditions = itemForPlaces(QStringLiteral("수령인 주소"), QStringLiteral("제주"),
                                             QStringLiteral("울릉"));
     return shop;
@@ -51,10 +51,10 @@ Shop japaneseShop()
                            QStringLiteral("order@moraul.example")};
     shop.firstHeads = QStringList{QStringLiteral("オーダー番号"), QStringLiteral("オーダー日"),
                                   QStringLiteral("お客様名"), QStringLiteral("メールアドレス")};
-    shop.secondHeads = QStringList{QStringLiteral("決済日時"), QStringLiteral("オーダー番号"),
+    shop.secondHeads = QStringList{QStringLiteral("オーダー番号"), QStringLiteral("決済日時"),
                                    QStringLiteral("決済方法"), QStringLiteral("決済金額")};
     shop.firstKey = 0;
-    shop.secondKey = 1;
+    shop.secondKey = 0;
     shop.itemWithConditions = itemForPlaces(QStringLiteral("都道府県(配送先)"),
                                             QStringLiteral("北海道"), QStringLiteral("沖縄"));
     return shop;

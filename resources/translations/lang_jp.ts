@@ -321,7 +321,7 @@ Please check the input file(s) and the matching keys of the setting.</source>
     </message>
     <message>
         <source>입력양식을 초기화 합니다</source>
-        <translation>入力フォーマットをすべて削除します</translation>
+        <translation>入力フォーマットと出力項目をすべて削除します</translation>
     </message>
     <message>
         <source>출력양식</source>
@@ -878,7 +878,7 @@ Debian用のインストールパッケージは、CMakeに含まれるCPack(3�
     </message>
     <message>
         <source>생성된 명세서를 출력합니다.</source>
-        <translation>作成した明細書を印刷します。</translation>
+        <translation>作成した明細書を開きます。</translation>
     </message>
     <message>
         <source>명세서

@@ -321,7 +321,7 @@ Please check the input file(s) and the matching keys of the setting.</source>
     </message>
     <message>
         <source>입력양식을 초기화 합니다</source>
-        <translation>입력양식을 초기화합니다</translation>
+        <translation>입력양식과 출력항목을 모두 비웁니다</translation>
     </message>
     <message>
         <source>출력양식</source>
@@ -660,7 +660,7 @@ Please check the input file(s) and the matching keys of the setting.</source>
     </message>
     <message>
         <source>항목사이 연결자 삽입</source>
-        <translation>항목사이 연결자 삽입</translation>
+        <translation>항목 사이 연결자 삽입</translation>
     </message>
     <message>
         <source>항목들이 연결될 때 항목간에 설정된 문자를 삽입합니다</source>
@@ -878,7 +878,7 @@ Debian용 설치 꾸러미는 CMake에 들어 있는 CPack(BSD 3조항 허가서
     </message>
     <message>
         <source>생성된 명세서를 출력합니다.</source>
-        <translation>생성된 명세서를 출력합니다.</translation>
+        <translation>생성된 명세서를 엽니다.</translation>
     </message>
     <message>
         <source>명세서
@@ -1282,7 +1282,7 @@ Latest version : %2</source>
     </message>
     <message>
         <source>자 만큼</source>
-        <translation>자 만큼</translation>
+        <translation>자만큼</translation>
     </message>
     <message>
         <source>설정된 길이를 처리할 방법을 선택합니다</source>
