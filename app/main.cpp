@@ -1,5 +1,6 @@
 // Quorin Converter: turns the order exports of web shops into the CSV file that a carrier takes.
 #include "app/mainwindow.h"
+#include "app/platform.h"
 #include "app/startup.h"
 #include "update/programversion.h"
 
@@ -17,6 +18,7 @@ int main(int argc, char *argv[])
     QTranslator translator;
     installTranslation(translator, languageName);
 
+    const FileUrlOpener fileUrlOpener;
     MainWindow window;
     window.show();
     return QApplication::exec();

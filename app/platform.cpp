@@ -15,6 +15,34 @@ QUrl localFileUrl(const QString &path)
     return url;
 }
 
+QUrl desktopFileUrl(const QUrl &url)
+{
+    QUrl result = url;
+#ifndef Q_OS_WIN // there two slashes begin the name of another computer
+    QString path = url.path(QUrl::FullyDecoded);
+    while (path.startsWith(QLatin1String("//")))
+        path.remove(0, 1);
+    result.setPath(path, QUrl::DecodedMode);
+#endif
+    return result;
+}
+
+FileUrlOpener::FileUrlOpener()
+{
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
+}
+
+FileUrlOpener::~FileUrlOpener()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+}
+
+void FileUrlOpener::open(const QUrl &url)
+{
+    // Within a handler the toolkit goes on to the desktop.
+    QDesktopServices::openUrl(desktopFileUrl(url));
+}
+
 void browseFolder(const QString &folder, QObject *owner)
 {
     auto *explorer = new QProcess(owner);

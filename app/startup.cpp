@@ -11,6 +11,8 @@ void prepareApplication()
     QCoreApplication::setOrganizationName(QStringLiteral("Velmora"));
     QCoreApplication::setOrganizationDomain(makerSite().toString());
     QCoreApplication::setApplicationName(QStringLiteral("Quorin Converter"));
+    // Desktops find the icon of the window by the name of the entry in their menu.
+    QGuiApplication::setDesktopFileName(QStringLiteral("quorin-converter"));
 
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -1,5 +1,6 @@
 // The start of the program: its identity, and which translation it takes from where.
 #include "app/mainwindow.h"
+#include "app/platform.h"
 #include "app/startup.h"
 #include "tests/app/warningcollector.h"
 
@@ -78,6 +79,9 @@ private slots:
     void warningsAreSeen();
     void identityIsSetBeforeTheApplicationObject();
     void highResolutionScreensAreServed();
+    void desktopsFindTheMenuEntry();
+    void filesHaveAddressesThatViewersUnderstand_data();
+    void filesHaveAddressesThatViewersUnderstand();
     void languageIsTheSystems_data();
     void languageIsTheSystems();
     void translationFileFollowsTheLanguage_data();
@@ -130,6 +134,36 @@ void TestStartup::highResolutionScreensAreServed()
     QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
     QVERIFY(QGuiApplication::highDpiScaleFactorRoundingPolicy()
             == Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+void TestStartup::desktopsFindTheMenuEntry()
+{
+    QCOMPARE(QGuiApplication::desktopFileName(), QStringLiteral("quorin-converter"));
+}
+
+void TestStartup::filesHaveAddressesThatViewersUnderstand_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("address");
+#ifdef Q_OS_WIN
+    QTest::newRow("drive") << "C:/shop/a.pdf"
+                           << "file:///C:/shop/a.pdf";
+#else
+    QTest::newRow("plain") << "/home/shop/quorinConverter.chm"
+                           << "file:///home/shop/quorinConverter.chm";
+    QTest::newRow("every character counts") << "/home/a b/100%#1?.pdf"
+                                            << "file:///home/a b/100%25%231%3F.pdf";
+    QTest::newRow("an escape in a name is part of the name") << "/home/%41.pdf"
+                                                             << "file:///home/%2541.pdf";
+#endif
+}
+
+void TestStartup::filesHaveAddressesThatViewersUnderstand()
+{
+    QFETCH(QString, path);
+    const QUrl url = desktopFileUrl(localFileUrl(path));
+    QTEST(url.toString(), "address");
+    QCOMPARE(url.toLocalFile(), path);
 }
 
 void TestStartup::languageIsTheSystems_data()
