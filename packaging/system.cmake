@@ -44,7 +44,13 @@ endforeach()
 install(FILES ${made_folder}/changelog.gz DESTINATION share/doc/quorin-converter ${component_of_system})
 install(FILES ${made_folder}/quorin-converter.1.gz DESTINATION share/man/man1 ${component_of_system})
 
+# "packaging" builds all that is installed, and an installation asks for nothing else: the tests of a
+# release build take longer than the program.
 add_custom_target(packaging ALL DEPENDS ${made_files})
+add_dependencies(packaging quorinConverter translations)
+if(TARGET help_file)
+    add_dependencies(packaging help_file)
+endif()
 
 # What the program reads comes from other people's files: nothing in it is writable once it runs.
 if(NOT APPLE)

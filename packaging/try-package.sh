@@ -39,7 +39,7 @@ make_package_and_enter() {
         cmake -S "$top" -B "$build" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INTERPROCEDURAL_OPTIMIZATION=ON >/dev/null
     fi
     build=$(cd "$build" && pwd)
-    cmake --build "$build" --parallel "$(nproc)" >/dev/null
+    cmake --build "$build" --parallel "$(nproc)" --target packaging >/dev/null
     shots=$build/package-trial
     rm -rf "$shots"
     mkdir "$shots"

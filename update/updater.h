@@ -3,8 +3,10 @@
 #pragma once
 
 #include "update/makersite.h"
+#include "update/versiondocument.h"
 
 #include <QObject>
+#include <optional>
 
 class QNetworkReply;
 
@@ -14,7 +16,7 @@ class Updater : public QObject
 
 public:
     /// The most bytes that are taken of a reply; a longer one ends the check. The document has some
-    /// hundred bytes, but the memory of the program is not the sender's.
+    /// hundred bytes.
     static constexpr qint64 largestReply = qint64(64) << 20;
 
     explicit Updater(QObject *parent = nullptr, const QUrl &document = latestVersionUrl());
@@ -32,5 +34,9 @@ private slots:
     void readXML(QNetworkReply *reply);
 
 private:
+    void readPart(QNetworkReply *reply);
+
     const QUrl m_document;
+    std::optional<VersionDocumentReader> m_reader;
+    qint64 m_received = 0; ///< bytes of the reply so far
 };

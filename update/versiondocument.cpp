@@ -1,15 +1,16 @@
 #include "update/versiondocument.h"
 
-#include <QXmlStreamReader>
 #include <cmath>
 
 namespace {
 
+// No number of a version is longer, and the question could not show it.
+constexpr int longestNumber = 100;
+constexpr int mostLineBreaks = 4;
+
 double versionNumber(const QString &text)
 {
-    // No number of a version is longer, and the question could not show it.
-    constexpr int longestNumber = 100;
-    if (text.size() > longestNumber)
+    if (text.size() > longestNumber || text.count(QLatin1Char('\n')) > mostLineBreaks)
         return 0;
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
@@ -19,46 +20,96 @@ double versionNumber(const QString &text)
 
 } // namespace
 
-VersionDocument readVersionDocument(const QByteArray &bytes)
+VersionDocumentReader::VersionDocumentReader()
 {
-    QXmlStreamReader reader(bytes);
     // Names count as they are written; a prefix that nobody declared is no error.
-    reader.setNamespaceProcessing(false);
+    m_reader.setNamespaceProcessing(false);
+    // In characters, for each place where an entity stands: thousands of places must not make much.
+    m_reader.setEntityExpansionLimit(longestNumber);
+}
 
-    // Counted, not recursive: the depth of a document is the sender's choice.
-    enum { Before, Within, After } place = Before;
-    int depth = 0; // of elements within the version
-    QString version;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
+void VersionDocumentReader::addData(const QByteArray &bytes)
+{
+    if (m_refused || !isCheap(bytes)) {
+        m_refused = true;
+        return;
+    }
+    m_reader.addData(bytes);
+    read();
+}
+
+// The reader compares every attribute of a tag with every other one, and every element with every
+// default that the document declares for attributes: some kilobytes of these take minutes. A
+// document about a version has no use for either.
+bool VersionDocumentReader::isCheap(const QByteArray &bytes)
+{
+    constexpr int mostEqualsSigns = 1000;
+    constexpr qint64 largestWideDocument = 1 << 16;
+    for (const char byte : bytes) {
+        if (byte == '<')
+            m_equalsSigns = 0;
+        else if (byte == '=' && ++m_equalsSigns > mostEqualsSigns)
+            return false;
+        else if (byte == '\0')
+            m_isWide = true;
+    }
+    // Where a character is more than a byte, as in UTF-16, bytes do not tell tags.
+    m_size += bytes.size();
+    if (m_isWide && m_size > largestWideDocument)
+        return false;
+
+    const QByteArray defaults = QByteArrayLiteral("<!ATTLIST");
+    const QByteArray seam = m_lastBytes + bytes.left(defaults.size() - 1);
+    if (seam.contains(defaults) || bytes.contains(defaults))
+        return false;
+    m_lastBytes = (m_lastBytes + bytes.right(defaults.size() - 1)).right(defaults.size() - 1);
+    return true;
+}
+
+void VersionDocumentReader::read()
+{
+    while (!m_reader.atEnd()) {
+        switch (m_reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            if (place == Within)
-                ++depth;
-            else if (place == Before && reader.qualifiedName() == QLatin1String("version"))
-                place = Within;
+            if (m_place == Within)
+                ++m_depth;
+            else if (m_place == Before && m_reader.qualifiedName() == QLatin1String("version"))
+                m_place = Within;
             break;
         case QXmlStreamReader::EndElement:
-            if (place == Within && depth-- == 0)
-                place = After;
+            if (m_place == Within && m_depth-- == 0)
+                m_place = After;
             break;
         case QXmlStreamReader::Characters:
-            if (place == Within)
-                version += reader.text();
+            // Nothing reads what is longer than a number; it only must not pass for one.
+            if (m_place == Within && m_version.size() <= longestNumber)
+                m_version += m_reader.text();
             break;
         default:
             break;
         }
     }
+}
 
+VersionDocument VersionDocumentReader::finish()
+{
     VersionDocument document;
-    document.wellFormed = !reader.hasError();
+    // Without a single byte the reader has met neither an error nor an end.
+    document.wellFormed = !m_refused && m_reader.tokenType() == QXmlStreamReader::EndDocument;
     if (document.wellFormed) {
-        document.latestVersion = version;
+        document.latestVersion = m_version;
     } else {
-        document.errorLine = reader.lineNumber();
-        document.errorColumn = reader.columnNumber();
+        document.errorLine = m_reader.lineNumber();
+        document.errorColumn = m_reader.columnNumber();
     }
     return document;
+}
+
+VersionDocument readVersionDocument(const QByteArray &bytes)
+{
+    VersionDocumentReader reader;
+    reader.addData(bytes);
+    return reader.finish();
 }
 
 bool isNewerVersion(const QString &latest, const QString &current)

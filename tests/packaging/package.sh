@@ -35,7 +35,7 @@ for library in libc6 libqt5core5a libqt5gui5 libqt5network5 libqt5widgets5 libst
 done
 
 begin "it recommends what texts, help, statements and input methods need"
-for recommended in fonts-noto-cjk xchm pdf-viewer xdg-utils fcitx5-frontend-qt5; do
+for recommended in fonts-noto-cjk kchmviewer xchm pdf-viewer xdg-utils fcitx5-frontend-qt5; do
     holds grep -qw -- "$recommended" <<<"$(field Recommends)"
 done
 

@@ -6,6 +6,7 @@
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest>
 #include <memory>
 
@@ -32,6 +33,7 @@ private slots:
     void endlessReplyIsCutOff();
     void packedReplyIsCutOff();
     void fiftyMegabytesAreRead();
+    void windowIsServedMeanwhile();
 };
 
 /// What a check of this document says, as "current latest", one line for each time.
@@ -228,6 +230,20 @@ void TestUpdater::fiftyMegabytesAreRead()
         Manner::Answer,
         HttpServer::reply("<p>" + QByteArray(50 << 20, ' ') + "<version>1.01</version></p>"));
     QCOMPARE(announcements(server, 60000), QStringList{QStringLiteral("1.00 1.01")});
+}
+
+// A long reply is read in parts, with the user's events in between.
+void TestUpdater::windowIsServedMeanwhile()
+{
+    const HttpServer server(Manner::Answer,
+                            HttpServer::reply("<p>" + QByteArray("<a/>").repeated(3 << 20)
+                                              + "<version>1.01</version></p>"));
+    int served = 0;
+    QTimer events;
+    connect(&events, &QTimer::timeout, [&served] { ++served; });
+    events.start(0);
+    QCOMPARE(announcements(server, 60000), QStringList{QStringLiteral("1.00 1.01")});
+    QVERIFY2(served > 20, qPrintable(QString::number(served)));
 }
 
 QTEST_GUILESS_MAIN(TestUpdater)

@@ -15,6 +15,10 @@ private slots:
     void errorsTellTheirPlace();
     void externalEntityIsNotFetched();
     void deepElementsDoNotEndTheStack();
+    void costlyDocumentsAreRefused_data();
+    void costlyDocumentsAreRefused();
+    void piecesMakeTheSame_data();
+    void piecesMakeTheSame();
     void isNewer_data();
     void isNewer();
 };
@@ -130,6 +134,71 @@ void TestVersionDocument::deepElementsDoNotEndTheStack()
              QStringLiteral("2"));
 }
 
+/// Each of these took minutes, or all memory, when it was read without bounds.
+void TestVersionDocument::costlyDocumentsAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray entity = "<!DOCTYPE u [<!ENTITY a '" + QByteArray(4000, '1') + "'>]>";
+    const QByteArray uses = QByteArray("&a;").repeated(300000);
+    QTest::newRow("an entity in many places") << entity + "<u>" + uses + "<version>2</version></u>";
+    QTest::newRow("an entity many times in the version")
+        << entity + "<u><version>" + uses + "</version></u>";
+    QTest::newRow("an entity many times in an attribute")
+        << entity + "<u b='" + uses + "'><version>2</version></u>";
+
+    QByteArray attributes;
+    QByteArray defaults;
+    for (int i = 0; i < 300000; ++i) {
+        const QByteArray name = 'a' + QByteArray::number(i);
+        attributes += ' ' + name + "=''";
+        if (i < 10000)
+            defaults += name + " CDATA '' ";
+    }
+    QTest::newRow("a tag of many attributes") << "<u" + attributes + "><version>2</version></u>";
+    QTest::newRow("defaults for many attributes") << "<!DOCTYPE u [<!ATTLIST u " + defaults
+            + ">]><u>" + QByteArray("<u/>").repeated(100000) + "<version>2</version></u>";
+    QByteArray wide;
+    const QByteArray narrow = "<u" + attributes + "><version>2</version></u>";
+    for (const char byte : narrow)
+        wide.append(byte).append('\0');
+    QTest::newRow("the same in UTF-16") << "\xff\xfe" + wide;
+}
+
+void TestVersionDocument::costlyDocumentsAreRefused()
+{
+    QFETCH(QByteArray, bytes);
+    const VersionDocument document = readVersionDocument(bytes);
+    QVERIFY(!document.wellFormed);
+    QCOMPARE(document.latestVersion, QString());
+}
+
+void TestVersionDocument::piecesMakeTheSame_data()
+{
+    latestVersion_data();
+    const auto row = [](const char *name, const QByteArray &bytes, bool wellFormed,
+                        const char *latest) {
+        QTest::newRow(name) << bytes << wellFormed << QString::fromLatin1(latest);
+    };
+    row("defaults for attributes",
+        "<!DOCTYPE u [<!ATTLIST u a CDATA '1'>]><u><version>2</version></u>", false, "");
+    row("a tag of some attributes", "<u a='1' b='2' c='=='><version>2</version></u>", true, "2");
+}
+
+void TestVersionDocument::piecesMakeTheSame()
+{
+    QFETCH(QByteArray, bytes);
+    // Of three and of seven bytes, or of the millionth part of a large document.
+    for (const int size : {3, 7}) {
+        const int step = bytes.size() > 10000 ? size * 100000 : size;
+        VersionDocumentReader reader;
+        for (int i = 0; i < bytes.size(); i += step)
+            reader.addData(bytes.mid(i, step));
+        const VersionDocument document = reader.finish();
+        QTEST(document.wellFormed, "wellFormed");
+        QTEST(document.latestVersion, "latest");
+    }
+}
+
 void TestVersionDocument::isNewer_data()
 {
     QTest::addColumn<QString>("latest");
@@ -146,6 +215,8 @@ void TestVersionDocument::isNewer_data()
                                "Infinity", "nan", "1e999", "beta"})
         row(QLatin1String(latest), false);
     row(QString::fromUtf8("２.０"), false);
+    QTest::newRow("line breaks that push the buttons off the screen")
+        << QString(20, QLatin1Char('\n')) + QLatin1Char('2') << false;
     QTest::newRow("a number that no window can show") << QString(1000, QLatin1Char('9')) << false;
     QTest::newRow("not compared as text: 9 is less than 10") << "9" << true;
 }
