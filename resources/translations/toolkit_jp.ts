@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP">
 <context>
+    <name>QFile</name>
+    <message>
+        <source>Cannot open destination file: %1</source>
+        <translation>保存先のファイルを開けません: %1</translation>
+    </message>
+    <message>
+        <source>Cannot open for output: %1</source>
+        <translation>書き込み用に開けません: %1</translation>
+    </message>
+    <message>
+        <source>Error while renaming: %1</source>
+        <translation>名前を変更できません: %1</translation>
+    </message>
+</context>
+<context>
     <name>QFileSystemModel</name>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
