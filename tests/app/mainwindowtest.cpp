@@ -3,6 +3,7 @@
 #include "settings/inputsetting.h"
 #include "settings/outputitem.h"
 #include "tests/app/answerfiledialog.h"
+#include "tests/app/nonetwork.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,7 +14,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
-#include <QNetworkProxy>
 #include <QPushButton>
 #include <QSettings>
 #include <QtTest>
@@ -62,8 +62,7 @@ int MainWindowTest::run(MainWindowTest &test, int argc, char *argv[])
 
 void MainWindowTest::init()
 {
-    // Every window asks for the latest version; nothing listens where the question goes.
-    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 9});
+    stayOffTheNetwork();
     m_warnings.emplace();
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());

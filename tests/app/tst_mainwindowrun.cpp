@@ -3,6 +3,7 @@
 #include "statement/statementsetting.h"
 #include "tests/app/answermessagebox.h"
 #include "tests/app/mainwindowtest.h"
+#include "tests/app/nonetwork.h"
 
 #include <QAction>
 #include <QApplication>
@@ -471,6 +472,7 @@ void TestMainWindowRun::updateStartsTheUpdaterAndEndsTheProcess()
 static int acceptUpdate()
 {
     const WarningCollector remarks;
+    stayOffTheNetwork();
     MainWindow window;
     window.show();
     const AnswerMessageBox box(Qt::Key_Return); // the default button

@@ -2,6 +2,7 @@
 #include "app/mainwindow.h"
 #include "app/platform.h"
 #include "app/startup.h"
+#include "tests/app/nonetwork.h"
 #include "tests/app/warningcollector.h"
 
 #include <QApplication>
@@ -304,6 +305,7 @@ int main(int argc, char *argv[])
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, userSettings.path());
     prepareApplication();
     QApplication application(argc, argv);
+    stayOffTheNetwork();
     TestStartup test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -2,6 +2,7 @@
 
 #include "app/mainwindow.h"
 #include "app/startup.h"
+#include "tests/app/nonetwork.h"
 #include "tests/drive/userhands.h"
 #include "tests/drive/walk.h"
 
@@ -43,6 +44,7 @@ int WalkProgram::run(const QString &screenshotFolder, const std::function<bool(W
 
     QTranslator translator;
     installTranslation(translator, systemLanguageName());
+    stayOffTheNetwork();
     MainWindow window;
     window.show();
 

@@ -5,6 +5,7 @@
 #include "app/startup.h"
 #include "engine/runtexts.h"
 #include "tests/app/answermessagebox.h"
+#include "tests/app/nonetwork.h"
 #include "tests/editor/dialogtest.h"
 #include "tests/translations/everywindow.h"
 #include "tests/translations/shownwindow.h"
@@ -275,6 +276,7 @@ int main(int argc, char *argv[])
     const QTemporaryDir userSettings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, userSettings.path());
     const QApplication application(argc, argv);
+    stayOffTheNetwork();
     TestTranslatedWindows test;
     return QTest::qExec(&test, argc, argv);
 }
