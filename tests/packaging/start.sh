@@ -11,6 +11,8 @@ build=$1
 . "$here/checks.sh"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+# Nobody is asked for the latest version: behind this door nobody listens.
+export https_proxy=http://127.0.0.1:9
 # The new user has settings of nobody.
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME QUORIN_CONVERTER_FOLDER LC_MESSAGES LANG LANGUAGE
 
@@ -75,7 +77,7 @@ for locale in ko_KR ja_JP en_US; do
     xdotool windowactivate --sync "$window" key ctrl+q
     wait $pid
     same "exit status" 0 $?
-    # The maker's reserved domain answers no question for a newer version.
+    # The question for a newer version has no answer.
     same "messages" "" "$(grep -v '^load xml failed' "$work/out")"
 done
 all_cases
