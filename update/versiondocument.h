@@ -9,10 +9,11 @@
 #include <QXmlStreamReader>
 
 struct VersionDocument {
-    bool wellFormed = false; ///< false: the bytes as a whole are not XML, or nothing to be read
+    bool wellFormed = false; ///< false: the bytes as a whole are not XML, or refused
     qint64 errorLine = 0;    ///< where they stop to be, from 1
     qint64 errorColumn = 0;  ///< from 0
-    /// Empty where the document names none, or is not well formed.
+    /// Empty where the document names none, or is not well formed. Of a text longer than any
+    /// number, only its beginning, which is still too long for one.
     QString latestVersion;
 };
 

@@ -8,11 +8,11 @@
 #include "help/pictures/dialogpictures.h"
 #include "help/pictures/shop.h"
 #include "help/pictures/windowpictures.h"
+#include "tests/app/nonetwork.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFontInfo>
-#include <QNetworkProxy>
 #include <QSettings>
 #include <QStyle>
 #include <QStyleFactory>
@@ -71,15 +71,6 @@ void setLook(const QString &fontFamily)
     if (QFontInfo(font).family() != fontFamily)
         qFatal("The font \"%s\" is missing (Debian: fonts-noto-cjk).", qUtf8Printable(fontFamily));
     QApplication::setFont(font);
-}
-
-/// The window asks for a newer version as soon as it is there. No picture needs the answer, so the
-/// question goes nowhere.
-void stayOffTheNetwork()
-{
-    const quint16 nobodyListens = 9;
-    QNetworkProxy::setApplicationProxy(
-        QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), nobodyListens));
 }
 
 } // namespace
